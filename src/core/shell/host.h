@@ -1,0 +1,55 @@
+#pragma once
+// The services that the session needs from the platform it runs on. The window layer
+// implements them on Qt; tests give a scripted fake that answers each question in turn and
+// records its text, so that no flow ever waits on a real dialog.
+#include <string>
+
+namespace vexlo::shell {
+
+// Buttons of a message box, as the MsgBox styles vbOKOnly, vbOKCancel, vbYesNoCancel, vbYesNo.
+enum class MsgButtons { Ok, OkCancel, YesNoCancel, YesNo };
+// Icon of a message box: none, vbCritical, vbQuestion, vbExclamation, vbInformation.
+enum class MsgIcon { None, Critical, Question, Exclamation, Information };
+// The button the user chose. A box closed without a choice answers Cancel where there is a
+// Cancel button, else No where there is a No, else Ok.
+enum class MsgAnswer { Ok, Cancel, Yes, No };
+
+// The title every message of the program carries.
+inline constexpr const char* kTitle = "Vexlo";
+// A line break inside a message text.
+inline constexpr const char* kCrLf = "\r\n";
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    // Shows a message; the text uses CR LF for its line breaks.
+    virtual MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                             const std::string& title) = 0;
+    // Lets the platform run pending events (DoEvents).
+    virtual void DoEvents() = 0;
+    // Shows or removes the hourglass pointer.
+    virtual void SetHourglass(bool on) = 0;
+    // The Editing Area's picture changed: repaint it on the screen.
+    virtual void RefreshDisplay() = 0;
+};
+
+// A Host that answers every question with its default button and does nothing else; for
+// code paths that run before a window exists and for tests that ask nothing.
+class NullHost : public Host {
+public:
+    MsgAnswer MsgBox(const std::string&, MsgButtons buttons, MsgIcon, const std::string&) override {
+        switch (buttons) {
+            case MsgButtons::Ok: return MsgAnswer::Ok;
+            case MsgButtons::OkCancel: return MsgAnswer::Ok;
+            case MsgButtons::YesNoCancel: return MsgAnswer::Yes;
+            case MsgButtons::YesNo: return MsgAnswer::Yes;
+        }
+        return MsgAnswer::Ok;
+    }
+    void DoEvents() override {}
+    void SetHourglass(bool) override {}
+    void RefreshDisplay() override {}
+};
+
+}  // namespace vexlo::shell

@@ -1,0 +1,171 @@
+#pragma once
+// The editing session of the main window: every working Surface, the six IconSlot records
+// with their alpha arrays, and the operations that move pictures between the panel and the
+// working planes. The window calls these from its handlers and redraws itself from the
+// Surfaces and the FormState; nothing here knows about widgets.
+#include <array>
+#include <string>
+
+#include "core/shell/form_state.h"
+#include "core/shell/host.h"
+#include "core/shell/icon_slot.h"
+#include "core/surface/surface.h"
+#include "core/tools/editing_area.h"
+
+namespace vexlo::shell {
+
+using surface::Color;
+using surface::Surface;
+
+inline constexpr Color kTransparentGray = 0xC0C0C0;  // the session's transparent color on screen
+inline constexpr Color kWindowColor = 0xFFFFFF;      // the system window color
+inline constexpr Color kWhite = 0xFFFFFF;
+inline constexpr Color kBlack = 0x000000;
+
+inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
+
+// Directories that the entry point finds; TempDir ends with its separator.
+struct Directories {
+    std::string WindowsDir;
+    std::string SystemDir;
+    std::string TempDir;
+    std::string ProgramDir;
+    std::string DesktopFolder;
+    std::string SystemFolder;
+    std::string LastFolder;
+};
+
+// What the first activation did with the command line.
+enum class CommandLineResult { Empty, NotFound, Ignored, Loaded, LoadFailed };
+
+class Session {
+public:
+    explicit Session(Host& host);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    Host& host() { return m_host; }
+
+    // --- Surfaces -----------------------------------------------------------------------
+    Surface picImage, picMask, PicIcon, picDisp, PicGrid, picUndo;
+    Surface picImageRegion, picMaskRegion, picImageSnap, picMaskSnap;
+    Surface picImageTemp, picMaskTemp, picTemp, picAuto;
+    std::array<Surface, kSlotCount> picPanelIcon, picPanelMask;
+
+    // --- Records and session variables --------------------------------------------------
+    std::array<IconSlot, kSlotCount> Slots;
+    std::array<AlphaArray, kSlotCount> SlotAlpha;
+    AlphaArray IncomingAlpha;
+    int CurrentSlot = 0;
+    int MagnifyStep = 12;
+    Color GridColor = tools::kGridLight;
+    std::string CurrentPath;
+    Directories Dirs;
+
+    bool FormLoading = false;
+    bool FirstActivation = true;
+    bool QuitAtActivation = false;
+
+    // Region and band rectangles that the Editing Area outlines.
+    bool RegionExists = false;
+    bool RegionEdgeDragged = false;
+    tools::DispRect RegionRect;
+    tools::CellRect RegionCells;
+    tools::DispRect Band;
+
+    FormState Form;
+
+    IconSlot& Current() { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
+    const IconSlot& Current() const { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
+    bool InArea() const { return Current().InEditingArea; }
+
+    // --- The load of the window and the exit ---------------------------------------------
+    // The load's own steps; false when the user declined to go on with too small a screen
+    // (QuitAtActivation is then set).
+    bool Load(int screenWidth, int screenHeight);
+    // The first activation's own steps with the command line as given. fileLoaded reports
+    // whether an ICO or CUR file was loaded, after which the working directory stays.
+    CommandLineResult RunFirstActivation(const std::string& commandLine, bool* keepWorkingDir);
+    // The exit question over the unsaved slots; false when the user chose to stay.
+    bool QueryExit();
+    // The text of the exit question, empty when no slot is unsaved.
+    std::string UnsavedSlotsQuestion() const;
+    // The common error box: label, line break, number, five blanks, description.
+    void ReportError(const std::string& label, long number, const std::string& description);
+
+    // --- The model's operations ----------------------------------------------------------
+    void SetWorkSize(int sizeCode);
+    void SetPanelSize(int sizeCode);
+    void ComposeIcon();
+    void StoreToPanel();
+    void ClearSlot();
+    bool EnsureAlphaArray();
+    void RebuildFromPanel();
+    void ShowIcon();
+    void ParkIcon();
+    void UnparkIcon();
+
+    // --- Panel, frames and the commands that replace the current icon ----------------------
+    void ShowFrame(Frame frame);
+    bool AskSaveCurrent();
+    bool GuardReplaceCurrent();
+    void ClickPanel(int k);
+    void DoubleClickPanel(int k);
+    void FileNew(int entry);
+    void FileOpen(int entry);
+    void CancelFrame();
+
+    // --- Editing Area ---------------------------------------------------------------------
+    void MagnifyIcon();
+    void BuildGrid();
+    void OverlayGrid();
+    void DrawRegionOutline();
+    void DrawLineBand();
+    void DrawBoxBand();
+    void ShowRegionMeasure();
+    void ClickGridline(int item);
+    void ClickDisplayMask();
+    // The pointer moved over picDisp at (x, y) in its pixels.
+    void PointerOverDisp(int x, int y);
+
+    // --- Status bar -----------------------------------------------------------------------
+    void RefreshStatusPanel();
+    void ClearStatusPanel();
+    void SetInfoLabels(bool visible);
+    void SetProgressVisible(bool visible);
+    void ShowProgress(int percent, bool withNumber);
+    void PointerOverForm();
+
+    // --- Calls into the parts that later work fills in --------------------------------------
+    void RefreshToolbar();
+    void ClearUndoHistory();
+    void TakeUndoSnapshot();
+    void ClearTools();
+    void ResetDrawState();
+    void SelectPaintTool();
+    void RefreshPaletteMenu();
+    void ResetRegionState();
+    void mnuFileSaveAsICO();
+
+private:
+    Host& m_host;
+};
+
+// The three lines of the refusal of a second instance.
+std::string SecondInstanceText();
+// The question for a screen below 800x600.
+std::string SmallScreenQuestion(int width, int height);
+// The command line with every double quote removed.
+std::string CommandLinePath(const std::string& commandLine);
+// The last three characters upper-cased: "ICO", "CUR", "ANI" or anything else.
+std::string UpperExtension3(const std::string& path);
+
+struct WindowPos {
+    int Left = 0;
+    int Top = 0;
+};
+// Where the window goes on a screen of the given size; stored is null when none was stored.
+WindowPos PlaceWindow(int screenWidth, int screenHeight, int windowWidth, int windowHeight,
+                      const WindowPos* stored);
+
+}  // namespace vexlo::shell

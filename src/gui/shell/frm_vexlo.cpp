@@ -1,0 +1,81 @@
+// The main window's life: construction, the load, the first activation and the exit.
+#include "gui/shell/frm_vexlo.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QLabel>
+#include <QTimer>
+
+#include "gui/platform/system_info.h"
+#include "gui/shell/surface_view.h"
+#include "gui/utilities/frm_vexlo_about.h"
+
+namespace vexlo::gui {
+
+FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
+    : QMainWindow(parent), m_session(m_host), m_commandLine(std::move(commandLine)) {
+    setWindowTitle("Vexlo");
+    m_host.SetRefreshDisplay([this] {
+        if (picDisp) picDisp->update();
+    });
+    BuildMenus();
+    BuildLayout();
+}
+
+FrmVexlo::~FrmVexlo() = default;
+
+bool FrmVexlo::LoadForm() {
+    const platform::ScreenPixels screen = platform::ScreenSize();
+    const bool go = m_session.Load(screen.width, screen.height);
+    m_session.Dirs.WindowsDir = platform::WindowsDirectory();
+    m_session.Dirs.SystemDir = platform::SystemDirectory();
+    m_session.Dirs.TempDir = platform::TempDirectory();
+    m_session.Dirs.ProgramDir = platform::ProgramDirectory();
+    if (!go) return false;
+    // No position is stored yet: the window is placed by the screen's size alone.
+    const shell::WindowPos pos =
+        shell::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight, nullptr);
+    setFixedSize(kFormWidth, kFormHeight);
+    move(pos.Left, pos.Top);
+    m_session.Dirs.LastFolder = m_session.Dirs.ProgramDir;
+    m_session.Dirs.DesktopFolder = platform::DesktopDirectory();
+    m_session.Dirs.SystemFolder = platform::SystemDirectory();
+    SyncFromModel();
+    return true;
+}
+
+void FrmVexlo::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (!m_activationScheduled) {
+        m_activationScheduled = true;
+        QTimer::singleShot(0, this, [this] { FirstActivate(); });
+    }
+}
+
+void FrmVexlo::FirstActivate() {
+    if (m_session.QuitAtActivation) {
+        close();
+        return;
+    }
+    if (!m_session.FirstActivation) return;
+    LayOutIconAndMask();
+    bool keepWorkingDir = false;
+    m_session.RunFirstActivation(m_commandLine, &keepWorkingDir);
+    if (!keepWorkingDir) QDir::setCurrent(QString::fromStdString(m_session.Dirs.ProgramDir));
+    SyncFromModel();
+}
+
+void FrmVexlo::closeEvent(QCloseEvent* event) {
+    if (!m_session.QuitAtActivation && !m_session.QueryExit()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+void FrmVexlo::ShowAbout() {
+    FrmVexloAbout about(this);
+    about.exec();
+}
+
+}  // namespace vexlo::gui

@@ -1,0 +1,99 @@
+#pragma once
+// frmVexlo, the main window: the Editing Area, the Icons Panel, the real-size views, the
+// panel frames and the status bar. Its handlers call the session and then redraw the
+// controls from the session's Surfaces and FormState.
+#include <QMainWindow>
+#include <array>
+#include <map>
+#include <string>
+
+#include "core/shell/session.h"
+#include "gui/platform/qt_host.h"
+
+class QAction;
+class QLabel;
+class QFrame;
+class QMenu;
+
+namespace vexlo::gui {
+
+class SurfaceView;
+
+// The window's outer size: 11500 by 8600 twips at 15 twips a pixel.
+inline constexpr int kFormWidth = 767;
+inline constexpr int kFormHeight = 573;
+
+class FrmVexlo : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit FrmVexlo(std::string commandLine, QWidget* parent = nullptr);
+    ~FrmVexlo() override;
+
+    shell::Session& session() { return m_session; }
+
+    // The load: false when the user declined to go on with too small a screen; the first
+    // activation then closes the window.
+    bool LoadForm();
+    // The first activation, run once when the window is first shown.
+    void FirstActivate();
+    bool FirstActivationDone() const { return !m_session.FirstActivation; }
+    // Writes every control from the session's state.
+    void SyncFromModel();
+    // Writes the status bar and the info labels only (pointer moves).
+    void SyncStatus();
+    // Runs a session operation and redraws the controls afterwards.
+    template <typename F>
+    void Run(F op) {
+        op(m_session);
+        SyncFromModel();
+    }
+
+    // Controls, by their names.
+    SurfaceView* picDisp = nullptr;
+    SurfaceView* picIcon = nullptr;  // PicIcon's real-size view
+    SurfaceView* picMask = nullptr;  // the mask plane's real-size view
+    QLabel* lblIcon = nullptr;
+    QLabel* lblMask = nullptr;
+    std::array<SurfaceView*, shell::kSlotCount> picPanelIcon{};
+    std::array<QLabel*, shell::kSlotCount> lblPanelIcon{};
+    std::array<QLabel*, 4> lblStatusPanel{};
+    QLabel* imgAlphaOnStatusPanel = nullptr;
+    QFrame* picProgressContainer = nullptr;
+    QFrame* picProgress = nullptr;
+    QLabel* lblProgressText = nullptr;
+    QLabel* lblDispXY = nullptr;
+    QLabel* lblMix = nullptr;
+    QLabel* lblRegionMeasure = nullptr;
+    QLabel* lblForExtendedFrame = nullptr;
+    std::map<shell::Frame, QFrame*> Frames;
+
+    std::array<QAction*, 3> mnuFileNew{};
+    std::array<QAction*, 4> mnuFileOpen{};
+    QAction* mnuFileExit = nullptr;
+    std::array<QAction*, 3> mnuOptionsGridline{};
+    QAction* mnuOptionsDisplayMask = nullptr;
+    QAction* mnuOptionsPromptToSave = nullptr;
+    QAction* mnuOptionsRemindIfBMP = nullptr;
+    QAction* mnuHelpAbout = nullptr;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildLayout();
+    void BuildPanel(QWidget* parent);
+    void BuildStatusBar();
+    void BuildMenus();
+    void LayOutIconAndMask();
+    void ShowAbout();
+
+    platform::QtHost m_host;
+    shell::Session m_session;
+    std::string m_commandLine;
+    bool m_activationScheduled = false;
+    QWidget* m_form = nullptr;
+};
+
+}  // namespace vexlo::gui

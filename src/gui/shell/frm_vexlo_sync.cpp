@@ -1,0 +1,71 @@
+// Drawing the controls from the session: pictures, panel labels, frames, status bar, ticks.
+#include <QAction>
+#include <QFrame>
+#include <QLabel>
+
+#include "gui/shell/frm_vexlo.h"
+#include "gui/shell/surface_view.h"
+
+namespace vexlo::gui {
+
+namespace {
+
+QColor ToQColor(surface::Color c) {
+    return QColor(surface::RedOf(c), surface::GreenOf(c), surface::BlueOf(c));
+}
+
+void SetText(QLabel* label, const std::string& text) {
+    const QString q = QString::fromStdString(text);
+    if (label->text() != q) label->setText(q);
+}
+
+}  // namespace
+
+void FrmVexlo::SyncFromModel() {
+    const shell::FormState& form = m_session.Form;
+    picDisp->update();
+    picIcon->update();
+    picMask->update();
+    for (int i = 0; i < shell::kSlotCount; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        picPanelIcon[k]->update();
+        QPalette pal = lblPanelIcon[k]->palette();
+        pal.setColor(QPalette::Window, ToQColor(form.PanelLabelBack[k]));
+        lblPanelIcon[k]->setPalette(pal);
+    }
+    for (auto& [frame, widget] : Frames) widget->setVisible(frame == form.VisibleFrame);
+
+    for (int i = 0; i < 3; ++i)
+        mnuOptionsGridline[static_cast<std::size_t>(i)]->setChecked(
+            form.GridlineChecked[static_cast<std::size_t>(i)]);
+    mnuOptionsDisplayMask->setChecked(form.DisplayMaskChecked);
+    mnuOptionsPromptToSave->setChecked(form.PromptToSaveChecked);
+    mnuOptionsRemindIfBMP->setChecked(form.RemindIfBmpChecked);
+    if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
+    SyncStatus();
+}
+
+void FrmVexlo::SyncStatus() {
+    const shell::StatusBar& status = m_session.Form.Status;
+    for (std::size_t i = 0; i < 4; ++i) SetText(lblStatusPanel[i], status.Panel[i]);
+    imgAlphaOnStatusPanel->setVisible(status.AlphaImageVisible);
+
+    picProgressContainer->setVisible(status.ProgressVisible);
+    const int full = picProgressContainer->width();
+    picProgress->setFixedWidth(full * status.ProgressPercent / 100);
+    lblProgressText->setText(status.ProgressShowsNumber
+                                 ? QString::number(status.ProgressPercent) + "%"
+                                 : QString());
+    lblProgressText->raise();
+
+    for (QLabel* label : {lblDispXY, lblMix, lblRegionMeasure, lblForExtendedFrame})
+        label->setVisible(status.InfoLabelsVisible);
+    if (status.InfoLabelsVisible) {
+        SetText(lblDispXY, status.DispXY);
+        SetText(lblMix, status.Mix);
+        SetText(lblRegionMeasure, status.RegionMeasure);
+        SetText(lblForExtendedFrame, status.ForExtendedFrame);
+    }
+}
+
+}  // namespace vexlo::gui

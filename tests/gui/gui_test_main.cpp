@@ -1,0 +1,22 @@
+// GoogleTest main of the window tests. They run on the offscreen platform unless the caller
+// chose one (test discovery runs this binary at build time, without a display). A message box
+// that no test scripted fails the test instead of waiting for a click.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QByteArray>
+
+#include "gui/platform/message_box.h"
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication app(argc, argv);
+    vexlo::platform::SetMessageBoxHandler([](const std::string& text,
+                                             vexlo::shell::MsgButtons buttons,
+                                             vexlo::shell::MsgIcon, const std::string&) {
+        ADD_FAILURE() << "Unscripted message box: " << text;
+        return vexlo::platform::ClosedBoxAnswer(buttons);
+    });
+    return RUN_ALL_TESTS();
+}
