@@ -57,11 +57,15 @@ void FrmVexlo::FirstActivate() {
         close();
         return;
     }
-    if (!m_session.FirstActivation) return;
+    // The activation lets pending events run; the timer that scheduled it must not start it
+    // a second time from there.
+    if (!m_session.FirstActivation || m_activating) return;
+    m_activating = true;
     LayOutIconAndMask();
     bool keepWorkingDir = false;
     m_session.RunFirstActivation(m_commandLine, &keepWorkingDir);
     if (!keepWorkingDir) QDir::setCurrent(QString::fromStdString(m_session.Dirs.ProgramDir));
+    m_activating = false;
     SyncFromModel();
 }
 

@@ -93,6 +93,7 @@ private:
     shell::Session m_session;
     std::string m_commandLine;
     bool m_activationScheduled = false;
+    bool m_activating = false;
     QWidget* m_form = nullptr;
 };
 

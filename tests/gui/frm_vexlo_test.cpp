@@ -1,0 +1,120 @@
+// The main window driven as a user would: menus, panel clicks, the pointer over the Editing
+// Area, the first activation's command line and the exit question. Offscreen, scripted.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QTest>
+
+#include "gui/shell/frm_vexlo.h"
+#include "gui/shell/surface_view.h"
+#include "scripted_dialogs.h"
+
+namespace vexlo::test {
+namespace {
+
+using shell::MsgAnswer;
+
+class FrmVexloTest : public ::testing::Test {
+protected:
+    void Open(const std::string& commandLine = "") {
+        window = std::make_unique<gui::FrmVexlo>(commandLine);
+        ASSERT_TRUE(window->LoadForm());
+        window->show();
+        window->FirstActivate();
+    }
+    QRgb DispPixel(int x, int y) { return window->picDisp->grab().toImage().pixel(x, y) & 0xFFFFFF; }
+
+    ScriptedHost host;
+    ScopedScriptedMessageBoxes boxes{host};
+    std::unique_ptr<gui::FrmVexlo> window;
+};
+
+TEST_F(FrmVexloTest, NewIcon48ShowsItsGridSizeAndName) {
+    Open();
+    window->mnuFileNew[2]->trigger();
+    const shell::Session& s = window->session();
+    EXPECT_EQ(s.MagnifyStep, 8);
+    EXPECT_EQ(window->lblStatusPanel[0]->text(), "Untitled");
+    EXPECT_EQ(window->lblStatusPanel[2]->text(), "48 x 48");
+    // What the widget shows: gray cells, light grid lines every 8 pixels (0x606060 AND gray).
+    EXPECT_EQ(DispPixel(3, 3), 0xC0C0C0u);
+    EXPECT_EQ(DispPixel(8, 3), 0x404040u);
+    EXPECT_EQ(DispPixel(3, 376), 0x404040u);
+    EXPECT_EQ(DispPixel(383, 383), 0xC0C0C0u);
+}
+
+TEST_F(FrmVexloTest, PanelClickMovesTheHighlightAndOpensTheSlot) {
+    Open();
+    window->mnuFileNew[1]->trigger();  // 16x16 in slot 0
+    QTest::mouseClick(window->picPanelIcon[2], Qt::LeftButton);
+    const shell::Session& s = window->session();
+    EXPECT_EQ(s.CurrentSlot, 2);
+    EXPECT_EQ(window->lblPanelIcon[2]->palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(window->lblPanelIcon[0]->palette().color(QPalette::Window), QColor(0xE0, 0xE0, 0xE0));
+    EXPECT_EQ(window->lblStatusPanel[0]->text(), "");
+    // Back to the 16x16 icon: only the top left quarter of the Editing Area is in use.
+    QTest::mouseClick(window->picPanelIcon[0], Qt::LeftButton);
+    EXPECT_EQ(s.CurrentSlot, 0);
+    EXPECT_EQ(window->lblStatusPanel[2]->text(), "16 x 16");
+    EXPECT_EQ(DispPixel(192, 100), 0x404040u);  // the quarter's right border
+    EXPECT_EQ(DispPixel(300, 300), 0xC0C0C0u);
+}
+
+TEST_F(FrmVexloTest, PointerOverTheIconShowsItsCell) {
+    Open();
+    window->mnuFileNew[0]->trigger();
+    QTest::mouseMove(window->picDisp, QPoint(5 * 12 + 3, 7 * 12 + 11));
+    EXPECT_EQ(window->lblDispXY->text(), "X=5  Y=7");
+}
+
+TEST_F(FrmVexloTest, GridOptionsAndMaskView) {
+    Open();
+    window->mnuFileNew[0]->trigger();
+    window->mnuOptionsGridline[1]->trigger();  // dark
+    EXPECT_TRUE(window->mnuOptionsGridline[1]->isChecked());
+    EXPECT_FALSE(window->mnuOptionsGridline[0]->isChecked());
+    EXPECT_EQ(DispPixel(12, 3), 0x000000u);
+    window->mnuOptionsGridline[1]->trigger();  // the ticked item again: no grid
+    EXPECT_FALSE(window->mnuOptionsGridline[1]->isChecked());
+    EXPECT_EQ(DispPixel(12, 3), 0xC0C0C0u);
+
+    EXPECT_TRUE(window->picMask->isVisible());
+    window->mnuOptionsDisplayMask->trigger();
+    EXPECT_FALSE(window->picMask->isVisible());
+    EXPECT_FALSE(window->lblMask->isVisible());
+}
+
+TEST_F(FrmVexloTest, MissingCommandLineFileIsReportedWithoutQuotes) {
+    host.Answer(MsgAnswer::Ok);
+    Open("\"/no/such folder/icon.ico\"");
+    ASSERT_EQ(host.shown.size(), 1u);
+    EXPECT_EQ(host.shown[0].text, "/no/such folder/icon.ico not found");
+    EXPECT_EQ(host.shown[0].title, "Vexlo");
+}
+
+TEST_F(FrmVexloTest, ExitAsksAboutUnsavedIconsAndNoKeepsTheWindow) {
+    Open();
+    window->mnuFileNew[0]->trigger();
+    window->session().Current().Changed = true;
+    host.Answer(MsgAnswer::No);
+    window->mnuFileExit->trigger();
+    EXPECT_TRUE(window->isVisible());
+    ASSERT_EQ(host.shown.size(), 1u);
+    EXPECT_NE(host.shown[0].text.find("Icon Seq 1    Untitled"), std::string::npos);
+
+    host.Answer(MsgAnswer::Yes);
+    window->mnuFileExit->trigger();
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(FrmVexloTest, ExitWithNothingUnsavedAsksNothing) {
+    Open();
+    window->mnuFileNew[0]->trigger();
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(host.shown.empty());
+}
+
+}  // namespace
+}  // namespace vexlo::test
