@@ -32,7 +32,7 @@ protected:
 
 TEST_F(FrmVexloTest, NewIcon48ShowsItsGridSizeAndName) {
     Open();
-    window->mnuFileNew[2]->trigger();
+    window->Item("mnuFileNew(2)")->trigger();
     const shell::Session& s = window->session();
     EXPECT_EQ(s.MagnifyStep, 8);
     EXPECT_EQ(window->lblStatusPanel[0]->text(), "Untitled");
@@ -46,7 +46,7 @@ TEST_F(FrmVexloTest, NewIcon48ShowsItsGridSizeAndName) {
 
 TEST_F(FrmVexloTest, PanelClickMovesTheHighlightAndOpensTheSlot) {
     Open();
-    window->mnuFileNew[1]->trigger();  // 16x16 in slot 0
+    window->Item("mnuFileNew(1)")->trigger();  // 16x16 in slot 0
     QTest::mouseClick(window->picPanelIcon[2], Qt::LeftButton);
     const shell::Session& s = window->session();
     EXPECT_EQ(s.CurrentSlot, 2);
@@ -63,24 +63,24 @@ TEST_F(FrmVexloTest, PanelClickMovesTheHighlightAndOpensTheSlot) {
 
 TEST_F(FrmVexloTest, PointerOverTheIconShowsItsCell) {
     Open();
-    window->mnuFileNew[0]->trigger();
+    window->Item("mnuFileNew(0)")->trigger();
     QTest::mouseMove(window->picDisp, QPoint(5 * 12 + 3, 7 * 12 + 11));
     EXPECT_EQ(window->lblDispXY->text(), "X=5  Y=7");
 }
 
 TEST_F(FrmVexloTest, GridOptionsAndMaskView) {
     Open();
-    window->mnuFileNew[0]->trigger();
-    window->mnuOptionsGridline[1]->trigger();  // dark
-    EXPECT_TRUE(window->mnuOptionsGridline[1]->isChecked());
-    EXPECT_FALSE(window->mnuOptionsGridline[0]->isChecked());
+    window->Item("mnuFileNew(0)")->trigger();
+    window->Item("mnuOptionsGridline(1)")->trigger();  // dark
+    EXPECT_TRUE(window->Item("mnuOptionsGridline(1)")->isChecked());
+    EXPECT_FALSE(window->Item("mnuOptionsGridline(0)")->isChecked());
     EXPECT_EQ(DispPixel(12, 3), 0x000000u);
-    window->mnuOptionsGridline[1]->trigger();  // the ticked item again: no grid
-    EXPECT_FALSE(window->mnuOptionsGridline[1]->isChecked());
+    window->Item("mnuOptionsGridline(1)")->trigger();  // the ticked item again: no grid
+    EXPECT_FALSE(window->Item("mnuOptionsGridline(1)")->isChecked());
     EXPECT_EQ(DispPixel(12, 3), 0xC0C0C0u);
 
     EXPECT_TRUE(window->picMask->isVisible());
-    window->mnuOptionsDisplayMask->trigger();
+    window->Item("mnuOptionsDisplayMask")->trigger();
     EXPECT_FALSE(window->picMask->isVisible());
     EXPECT_FALSE(window->lblMask->isVisible());
 }
@@ -95,22 +95,22 @@ TEST_F(FrmVexloTest, MissingCommandLineFileIsReportedWithoutQuotes) {
 
 TEST_F(FrmVexloTest, ExitAsksAboutUnsavedIconsAndNoKeepsTheWindow) {
     Open();
-    window->mnuFileNew[0]->trigger();
+    window->Item("mnuFileNew(0)")->trigger();
     window->session().Current().Changed = true;
     host.Answer(MsgAnswer::No);
-    window->mnuFileExit->trigger();
+    window->Item("mnuFileExit")->trigger();
     EXPECT_TRUE(window->isVisible());
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_NE(host.shown[0].text.find("Icon Seq 1    Untitled"), std::string::npos);
 
     host.Answer(MsgAnswer::Yes);
-    window->mnuFileExit->trigger();
+    window->Item("mnuFileExit")->trigger();
     EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(FrmVexloTest, ExitWithNothingUnsavedAsksNothing) {
     Open();
-    window->mnuFileNew[0]->trigger();
+    window->Item("mnuFileNew(0)")->trigger();
     window->close();
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(host.shown.empty());

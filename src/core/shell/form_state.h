@@ -52,6 +52,14 @@ struct FormState {
     bool DisplayMaskChecked = true;                            // mnuOptionsDisplayMask
     bool PromptToSaveChecked = false;                          // mnuOptionsPromptToSave
     bool RemindIfBmpChecked = true;                            // mnuOptionsRemindIfBMP
+    int PaletteMode = 0;     // the ticked item of mnuPaletteSub: 0 16 colors, 1 256 colors
+    int BrushSizeIndex = 0;  // cboBrushSize's index; mnuBrushSize(i) is ticked for i
+    bool ColorChart0Visible = false;  // picColorChart(0)
+    bool ColorMixerVisible = false;   // fraColorMixer
+    // cmdTB(0..25).Enabled as RefreshToolbar last wrote it.
+    std::array<bool, 26> ToolbarEnabled{true, true, true, true, true, true, true, true, true,
+                                        true, true, true, true, true, true, true, true, true,
+                                        true, true, true, true, true, true, true, true};
     StatusBar Status;
 };
 

@@ -2,7 +2,10 @@
 // The services that the session needs from the platform it runs on. The window layer
 // implements them on Qt; tests give a scripted fake that answers each question in turn and
 // records its text, so that no flow ever waits on a real dialog.
+#include <cstdint>
 #include <string>
+
+#include "core/utilities/dialog_requests.h"
 
 namespace vexlo::shell {
 
@@ -32,6 +35,25 @@ public:
     virtual void SetHourglass(bool on) = 0;
     // The Editing Area's picture changed: repaint it on the screen.
     virtual void RefreshDisplay() = 0;
+
+    // Whether the clipboard holds a bitmap.
+    virtual bool ClipboardHasBitmap() { return false; }
+
+    // The common dialogs (clsVexloDialog) and the folder dialog. A cancelled dialog answers
+    // an empty string, -1 or false, and nothing else. Without a platform, every dialog is
+    // cancelled.
+    virtual std::string ShowOpen(const utilities::OpenRequest&) { return {}; }
+    virtual std::string ShowSave(const utilities::SaveRequest&) { return {}; }
+    // The COLORREF chosen, starting from color; -1 when cancelled.
+    virtual std::int32_t ShowColor(std::int32_t /*color*/, bool /*fullOpen*/) { return -1; }
+    virtual bool ShowPrinter(const utilities::PrinterRequest&) { return false; }
+    virtual utilities::PrinterValues Printer() const { return {}; }
+    // GetFolderSpec: the folder chosen in frmDirDialog starting at startFolder, showing
+    // pattern (empty for none); empty when cancelled.
+    virtual std::string GetFolderSpec(const std::string& /*pattern*/,
+                                      const std::string& /*startFolder*/) {
+        return {};
+    }
 };
 
 // A Host that answers every question with its default button and does nothing else; for

@@ -9,6 +9,7 @@
 #include "core/shell/form_state.h"
 #include "core/shell/host.h"
 #include "core/shell/icon_slot.h"
+#include "core/shell/menu_tree.h"
 #include "core/surface/surface.h"
 #include "core/tools/editing_area.h"
 
@@ -136,8 +137,20 @@ public:
     void ShowProgress(int percent, bool withNumber);
     void PointerOverForm();
 
-    // --- Calls into the parts that later work fills in --------------------------------------
+    // --- Commands -------------------------------------------------------------------------
+    // The facts that the enable rules of menus and toolbar read, as they stand now.
+    RuleContext Rules();
+    // Runs the menu item of that name as if the user had chosen it; false for a name that
+    // isn't the session's to run.
+    bool RunMenuItem(std::string_view name);
+    // A click on cmdTB(k): runs its item.
+    void ClickToolbar(int k);
     void RefreshToolbar();
+    void ClickBrushSize(int i);
+    int UndoCount() const;
+    int RedoCount() const;
+
+    // --- Calls into the parts that later work fills in --------------------------------------
     void ClearUndoHistory();
     void TakeUndoSnapshot();
     void ClearTools();

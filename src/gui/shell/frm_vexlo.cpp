@@ -20,6 +20,7 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     });
     BuildMenus();
     BuildLayout();
+    m_session.RefreshToolbar();
 }
 
 FrmVexlo::~FrmVexlo() = default;

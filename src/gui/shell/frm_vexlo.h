@@ -14,6 +14,7 @@ class QAction;
 class QLabel;
 class QFrame;
 class QMenu;
+class QToolButton;
 
 namespace vexlo::gui {
 
@@ -67,14 +68,11 @@ public:
     QLabel* lblForExtendedFrame = nullptr;
     std::map<shell::Frame, QFrame*> Frames;
 
-    std::array<QAction*, 3> mnuFileNew{};
-    std::array<QAction*, 4> mnuFileOpen{};
-    QAction* mnuFileExit = nullptr;
-    std::array<QAction*, 3> mnuOptionsGridline{};
-    QAction* mnuOptionsDisplayMask = nullptr;
-    QAction* mnuOptionsPromptToSave = nullptr;
-    QAction* mnuOptionsRemindIfBMP = nullptr;
-    QAction* mnuHelpAbout = nullptr;
+    // Every menu item by its name ("mnuFileNew(2)", "mnuFileExit", ...).
+    std::map<std::string, QAction*, std::less<>> MenuItems;
+    QAction* Item(std::string_view name) const;
+    // cmdTB(0..25); elements 26 to 30 are the separators between them.
+    std::array<QToolButton*, shell::kToolbarCommands> cmdTB{};
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -86,6 +84,11 @@ private:
     void BuildPanel(QWidget* parent);
     void BuildStatusBar();
     void BuildMenus();
+    void BuildToolbar(QWidget* row);
+    // Runs an item chosen from the menu, from its shortcut or from the toolbar.
+    void RunItem(std::string_view name);
+    // The enable rules of one top menu, run as it drops down.
+    void ApplyMenuRules(const shell::TopMenu& menu);
     void LayOutIconAndMask();
     void ShowAbout();
 

@@ -66,17 +66,17 @@ void FrmVexlo::BuildLayout() {
     m_form->installEventFilter(this);
     setCentralWidget(m_form);
 
-    // The toolbar's row stands empty until its buttons are placed in it.
     auto* toolbarRow = new QFrame(m_form);
     toolbarRow->setObjectName("toolbarRow");
     toolbarRow->setGeometry(0, 0, kFormWidth, kToolbarRowHeight);
-    toolbarRow->setFrameShape(QFrame::HLine);
+    BuildToolbar(toolbarRow);
 
     QFrame* picDispContainer = MakeSunken(m_form, QRect(kDispLeft, kDispTop, 388, 388));
     picDispContainer->setObjectName("picDispContainer");
     picDisp = new SurfaceView(&m_session.picDisp, picDispContainer);
     picDisp->setObjectName("picDisp");
     picDisp->setGeometry(2, 2, 384, 384);
+    picDisp->setFocusPolicy(Qt::StrongFocus);
     connect(picDisp, &SurfaceView::Moved, this,
             [this](Qt::MouseButtons, Qt::KeyboardModifiers, int x, int y) {
                 m_session.PointerOverDisp(x, y);

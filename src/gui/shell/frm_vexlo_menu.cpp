@@ -1,68 +1,70 @@
-// The menu bar and what each item runs.
+// The menu bar, built from the session's menu table, and what each item runs.
 #include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 
+#include "core/shell/menu_tree.h"
 #include "gui/shell/frm_vexlo.h"
 
 namespace vexlo::gui {
 
+QAction* FrmVexlo::Item(std::string_view name) const {
+    const auto it = MenuItems.find(name);
+    return it == MenuItems.end() ? nullptr : it->second;
+}
+
 void FrmVexlo::BuildMenus() {
-    QMenu* file = menuBar()->addMenu("&File");
-    static const char* const kNew[3] = {"&New Icon 32x32", "N&ew Icon 16x16", "Ne&w Icon 48x48"};
-    static const char* const kNewKeys[3] = {"Ctrl+N", "Ctrl+E", ""};
-    for (int i = 0; i < 3; ++i) {
-        QAction* a = file->addAction(kNew[i]);
-        a->setShortcut(QKeySequence(kNewKeys[i]));
-        connect(a, &QAction::triggered, this, [this, i] { Run([i](auto& s) { s.FileNew(i); }); });
-        mnuFileNew[static_cast<std::size_t>(i)] = a;
+    for (const shell::TopMenu& top : shell::MenuTree()) {
+        QMenu* menu = menuBar()->addMenu(QString::fromUtf8(top.Caption.data(), static_cast<int>(top.Caption.size())));
+        menu->setObjectName(QString::fromUtf8(top.Name.data(), static_cast<int>(top.Name.size())));
+        for (const shell::MenuItem& item : top.Items) {
+            QAction* action = nullptr;
+            if (item.Caption == "-") {
+                action = menu->addSeparator();
+            } else {
+                action = menu->addAction(QString::fromUtf8(item.Caption.data(), static_cast<int>(item.Caption.size())));
+                action->setShortcut(QKeySequence(QString::fromUtf8(item.Shortcut.data(), static_cast<int>(item.Shortcut.size()))));
+                action->setCheckable(item.Checkable);
+            }
+            if (item.Name.empty()) continue;
+            const std::string name(item.Name);
+            action->setObjectName(QString::fromStdString(name));
+            MenuItems[name] = action;
+            if (!action->isSeparator())
+                connect(action, &QAction::triggered, this, [this, name] { RunItem(name); });
+        }
+        if (top.HasRule)
+            connect(menu, &QMenu::aboutToShow, this, [this, &top] { ApplyMenuRules(top); });
     }
-    file->addSeparator();
-    static const char* const kOpen[4] = {
-        "&Open Icon File  ....", "&Display All Icons In Folder ....",
-        "Open &Cursor File (cur) ....", "Open &Bitmap File (bmp/gif/jpg/wfm/ emf) ...."};
-    static const char* const kOpenKeys[4] = {"Ctrl+O", "Ctrl+D", "", ""};
-    for (int i = 0; i < 4; ++i) {
-        QAction* a = file->addAction(kOpen[i]);
-        a->setShortcut(QKeySequence(kOpenKeys[i]));
-        connect(a, &QAction::triggered, this, [this, i] { Run([i](auto& s) { s.FileOpen(i); }); });
-        mnuFileOpen[static_cast<std::size_t>(i)] = a;
+    // The file history stays hidden until entries are stored.
+    for (int i = 0; i <= 6; ++i) {
+        QAction* entry = Item("mnuFileHistory(" + std::to_string(i) + ")");
+        entry->setEnabled(false);
+        entry->setVisible(false);
     }
-    file->addSeparator();
-    mnuFileExit = file->addAction("E&xit");
-    connect(mnuFileExit, &QAction::triggered, this, &QWidget::close);
+}
 
-    QMenu* options = menuBar()->addMenu("&Options");
-    static const char* const kGrid[3] = {"Solid Grid Lines - &Light", "Solid Grid Lines - &Dark",
-                                         "Dotted &Grid Lines"};
-    for (int i = 0; i < 3; ++i) {
-        QAction* a = options->addAction(kGrid[i]);
-        a->setCheckable(true);
-        connect(a, &QAction::triggered, this,
-                [this, i] { Run([i](auto& s) { s.ClickGridline(i); }); });
-        mnuOptionsGridline[static_cast<std::size_t>(i)] = a;
+void FrmVexlo::ApplyMenuRules(const shell::TopMenu& menu) {
+    const shell::RuleContext context = m_session.Rules();
+    for (const shell::MenuItem& item : menu.Items) {
+        if (item.Name.empty() || item.Rule == shell::EnableRule::Always ||
+            item.Rule == shell::EnableRule::FileHistory)
+            continue;
+        if (QAction* action = Item(item.Name)) action->setEnabled(shell::RuleHolds(item.Rule, context));
     }
-    options->addSeparator();
-    mnuOptionsDisplayMask = options->addAction("Display &Mask");
-    mnuOptionsDisplayMask->setCheckable(true);
-    connect(mnuOptionsDisplayMask, &QAction::triggered, this, [this] {
-        Run([](auto& s) { s.ClickDisplayMask(); });
-        LayOutIconAndMask();
-    });
-    options->addSeparator();
-    mnuOptionsPromptToSave = options->addAction("&Prompt To Save On Icons Panel Switching");
-    mnuOptionsPromptToSave->setCheckable(true);
-    connect(mnuOptionsPromptToSave, &QAction::triggered, this, [this] {
-        Run([](auto& s) { s.Form.PromptToSaveChecked = !s.Form.PromptToSaveChecked; });
-    });
-    mnuOptionsRemindIfBMP = options->addAction("&Remind To Create Transparent Area If Bitmap");
-    mnuOptionsRemindIfBMP->setCheckable(true);
-    connect(mnuOptionsRemindIfBMP, &QAction::triggered, this, [this] {
-        Run([](auto& s) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; });
-    });
+}
 
-    QMenu* help = menuBar()->addMenu("&Help");
-    mnuHelpAbout = help->addAction("&About ....");
-    connect(mnuHelpAbout, &QAction::triggered, this, &FrmVexlo::ShowAbout);
+void FrmVexlo::RunItem(std::string_view name) {
+    if (name == "mnuFileExit") {
+        close();
+        return;
+    }
+    if (name == "mnuHelpAbout") {
+        ShowAbout();
+        return;
+    }
+    Run([name](shell::Session& s) { s.RunMenuItem(name); });
+    if (name == "mnuOptionsDisplayMask") LayOutIconAndMask();
 }
 
 }  // namespace vexlo::gui

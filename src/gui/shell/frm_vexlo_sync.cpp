@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QFrame>
 #include <QLabel>
+#include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
 #include "gui/shell/surface_view.h"
@@ -36,11 +37,19 @@ void FrmVexlo::SyncFromModel() {
     for (auto& [frame, widget] : Frames) widget->setVisible(frame == form.VisibleFrame);
 
     for (int i = 0; i < 3; ++i)
-        mnuOptionsGridline[static_cast<std::size_t>(i)]->setChecked(
-            form.GridlineChecked[static_cast<std::size_t>(i)]);
-    mnuOptionsDisplayMask->setChecked(form.DisplayMaskChecked);
-    mnuOptionsPromptToSave->setChecked(form.PromptToSaveChecked);
-    mnuOptionsRemindIfBMP->setChecked(form.RemindIfBmpChecked);
+        Item("mnuOptionsGridline(" + std::to_string(i) + ")")
+            ->setChecked(form.GridlineChecked[static_cast<std::size_t>(i)]);
+    Item("mnuOptionsDisplayMask")->setChecked(form.DisplayMaskChecked);
+    Item("mnuOptionsPromptToSave")->setChecked(form.PromptToSaveChecked);
+    Item("mnuOptionsRemindIfBMP")->setChecked(form.RemindIfBmpChecked);
+    Item("mnuPaletteSub(0)")->setChecked(form.PaletteMode == 0);
+    Item("mnuPaletteSub(1)")->setChecked(form.PaletteMode == 1);
+    for (int i = 0; i < 6; ++i)
+        Item("mnuBrushSize(" + std::to_string(i) + ")")->setChecked(form.BrushSizeIndex == i);
+    for (int k = 0; k < shell::kToolbarCommands; ++k)
+        if (!shell::ToolbarButtonFixed(k))
+            cmdTB[static_cast<std::size_t>(k)]->setEnabled(
+                form.ToolbarEnabled[static_cast<std::size_t>(k)]);
     if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
     SyncStatus();
 }

@@ -1,0 +1,59 @@
+// cmdTB: the toolbar's buttons in the row above the Editing Area.
+#include <QDir>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+#include "core/shell/menu_tree.h"
+#include "gui/shell/frm_vexlo.h"
+#include "gui/shell/surface_view.h"
+
+namespace vexlo::gui {
+
+namespace {
+
+// The picture of button k: the resource file whose name starts with tb_kk_.
+QIcon ButtonPicture(int k) {
+    const QStringList names =
+        QDir(":/toolbar").entryList({QString("tb_%1_*.png").arg(k, 2, 10, QChar('0'))});
+    return names.isEmpty() ? QIcon() : QIcon(":/toolbar/" + names.first());
+}
+
+// Separators (elements 26 to 30) stand after these buttons.
+bool SeparatorAfter(int k) { return k == 3 || k == 5 || k == 7 || k == 12 || k == 16; }
+
+}  // namespace
+
+void FrmVexlo::BuildToolbar(QWidget* row) {
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(4, 2, 4, 2);
+    layout->setSpacing(1);
+    const auto& buttons = shell::ToolbarButtons();
+    for (int k = 0; k < shell::kToolbarCommands; ++k) {
+        const shell::ToolbarButton& b = buttons[static_cast<std::size_t>(k)];
+        auto* button = new QToolButton(row);
+        button->setObjectName(QString("cmdTB%1").arg(k));
+        button->setIcon(ButtonPicture(k));
+        button->setIconSize(QSize(16, 16));
+        button->setFixedSize(24, 24);
+        button->setAutoRaise(true);
+        button->setToolTip(QString::fromUtf8(b.Tooltip.data(), static_cast<int>(b.Tooltip.size())));
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &QToolButton::clicked, this, [this, k] {
+            picDisp->setFocus();
+            RunItem(shell::ToolbarButtons()[static_cast<std::size_t>(k)].Runs);
+        });
+        layout->addWidget(button);
+        cmdTB[static_cast<std::size_t>(k)] = button;
+        if (SeparatorAfter(k)) {
+            auto* separator = new QFrame(row);
+            separator->setFrameShape(QFrame::VLine);
+            separator->setFrameShadow(QFrame::Sunken);
+            separator->setFixedSize(6, 22);
+            layout->addWidget(separator);
+        }
+    }
+    layout->addStretch();
+}
+
+}  // namespace vexlo::gui
