@@ -4,6 +4,8 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
+#include <QToolButton>
 #include <QTest>
 
 #include "gui/shell/frm_vexlo.h"
@@ -114,6 +116,34 @@ TEST_F(FrmVexloTest, ExitWithNothingUnsavedAsksNothing) {
     window->close();
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(host.shown.empty());
+}
+
+TEST_F(FrmVexloTest, MenuRulesRunWhenTheMenuDropsDownAndAtNoOtherMoment) {
+    Open();
+    window->Item("mnuFileNew(1)")->trigger();  // 16x16
+    auto* effects = window->findChild<QMenu*>("mnuEffects");
+    ASSERT_NE(effects, nullptr);
+    emit effects->aboutToShow();
+    EXPECT_TRUE(window->Item("mnuEffectsExpand")->isEnabled());
+    EXPECT_FALSE(window->Item("mnuEffectsShrink")->isEnabled());
+    EXPECT_FALSE(window->Item("mnuEffectsGradientUnpaintedArea")->isEnabled());
+    EXPECT_FALSE(window->cmdTB[20]->isEnabled());  // the toolbar follows without a menu
+    EXPECT_FALSE(window->cmdTB[6]->isEnabled());   // one undo entry only
+
+    window->Item("mnuFileNew(0)")->trigger();  // 32x32, menu not opened again
+    EXPECT_TRUE(window->Item("mnuEffectsExpand")->isEnabled());
+    EXPECT_TRUE(window->cmdTB[20]->isEnabled());
+    emit effects->aboutToShow();
+    EXPECT_FALSE(window->Item("mnuEffectsExpand")->isEnabled());
+    EXPECT_TRUE(window->Item("mnuEffectsShrink")->isEnabled());
+}
+
+TEST_F(FrmVexloTest, ToolbarButtonRunsItsItemAndShowsItsTooltip) {
+    Open();
+    EXPECT_EQ(window->cmdTB[1]->toolTip(), "New 16x16");
+    EXPECT_EQ(window->cmdTB[25]->toolTip(), "View/edit/create Alpha (32 BPP icon)");
+    window->cmdTB[1]->click();
+    EXPECT_EQ(window->lblStatusPanel[2]->text(), "16 x 16");
 }
 
 }  // namespace
