@@ -12,6 +12,7 @@
 #include "core/shell/menu_tree.h"
 #include "core/surface/surface.h"
 #include "core/tools/editing_area.h"
+#include "core/tools/undo_history.h"
 
 namespace vexlo::shell {
 
@@ -147,12 +148,20 @@ public:
     void ClickToolbar(int k);
     void RefreshToolbar();
     void ClickBrushSize(int i);
+    // Says "No icon in Editing Area yet" and answers false when there is none.
+    bool NeedsIconInArea();
+
+    // --- Undo and redo ----------------------------------------------------------------------
     int UndoCount() const;
     int RedoCount() const;
+    void TakeUndoSnapshot();
+    void ClearUndoHistory();
+    void UndoStep();
+    void UndoAll();
+    void RedoStep();
+    const tools::UndoHistory& Undo() const { return m_undo; }
 
     // --- Calls into the parts that later work fills in --------------------------------------
-    void ClearUndoHistory();
-    void TakeUndoSnapshot();
     void ClearTools();
     void ResetDrawState();
     void SelectPaintTool();
@@ -161,7 +170,10 @@ public:
     void mnuFileSaveAsICO();
 
 private:
+    void RestoreUndoEntry(const Surface& entry);
+
     Host& m_host;
+    tools::UndoHistory m_undo;
 };
 
 // The three lines of the refusal of a second instance.

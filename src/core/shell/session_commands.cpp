@@ -73,6 +73,12 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsRemindIfBMP",
          [](Session& s, int) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
+        {"mnuEditSub",
+         [](Session& s, int i) {
+             if (i == 0) s.UndoStep();
+             if (i == 1) s.UndoAll();
+             if (i == 2) s.RedoStep();
+         }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;

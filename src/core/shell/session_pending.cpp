@@ -4,13 +4,9 @@
 
 namespace vexlo::shell {
 
-void Session::ClearUndoHistory() {}
-void Session::TakeUndoSnapshot() {}
 void Session::ClearTools() {}
 void Session::ResetDrawState() {}
 void Session::SelectPaintTool() {}
-int Session::UndoCount() const { return 0; }
-int Session::RedoCount() const { return 0; }
 void Session::RefreshPaletteMenu() {}
 void Session::mnuFileSaveAsICO() {}
 
