@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/surface/surface.h"
+#include "core/tools/tool_state.h"
 
 namespace vexlo::shell {
 
@@ -56,6 +57,10 @@ struct FormState {
     int BrushSizeIndex = 0;  // cboBrushSize's index; mnuBrushSize(i) is ticked for i
     bool ColorChart0Visible = false;  // picColorChart(0)
     bool ColorMixerVisible = false;   // fraColorMixer
+    tools::Tool SelectedTool = tools::Tool::None;  // the tool whose picture is framed
+    bool ColorPickerSelected = false;              // imgColorPicker
+    tools::Pointer PointerOfDisp;                  // picDisp's pointer shape
+    std::array<int, 2> CursorHotSpot{0, 0};        // cboCursorHotSpot(0..1) list indexes
     // cmdTB(0..25).Enabled as RefreshToolbar last wrote it.
     std::array<bool, 26> ToolbarEnabled{true, true, true, true, true, true, true, true, true,
                                         true, true, true, true, true, true, true, true, true,

@@ -36,6 +36,9 @@ public:
     // The Editing Area's picture changed: repaint it on the screen.
     virtual void RefreshDisplay() = 0;
 
+    // Moves the pointer one pixel and back, so that its shape is brought up to date.
+    virtual void NudgePointer() {}
+
     // Whether the clipboard holds a bitmap.
     virtual bool ClipboardHasBitmap() { return false; }
 

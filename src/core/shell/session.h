@@ -12,6 +12,7 @@
 #include "core/shell/menu_tree.h"
 #include "core/surface/surface.h"
 #include "core/tools/editing_area.h"
+#include "core/tools/tool_state.h"
 #include "core/tools/undo_history.h"
 
 namespace vexlo::shell {
@@ -76,6 +77,8 @@ public:
     tools::DispRect Band;
 
     FormState Form;
+    Color SelectedColor = kWhite;  // the Current Selected Color
+    tools::DrawState Draw;
 
     IconSlot& Current() { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
     const IconSlot& Current() const { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
@@ -130,6 +133,23 @@ public:
     // The pointer moved over picDisp at (x, y) in its pixels.
     void PointerOverDisp(int x, int y);
 
+    // --- Toolbox and the pointer on the Editing Area ---------------------------------------
+    enum class Button { Left, Right, Middle };
+    // A click on the tool's picture (SelectTool), on the Color Picker, on Clear all tools.
+    void ClickTool(tools::Tool tool);
+    void ClickColorPicker();
+    void ClickClearAllTools();
+    bool AnyToolSelected() const { return Form.SelectedTool != tools::Tool::None; }
+    // Whether (x, y) of picDisp lies in the icon's part of it.
+    bool InsideIcon(int x, int y) const;
+    void UpdatePointerShape(int x, int y);
+    void PointerPressed(Button button, int x, int y);
+    // modifierDown: Shift, Control or Alt is held during this move.
+    void PointerMoved(int x, int y, bool modifierDown);
+    void PointerReleased(int x, int y, bool shiftDown);
+    // The brush number: the number in the text of cboBrushSize.
+    int BrushNumber() const { return Form.BrushSizeIndex + 1; }
+
     // --- Status bar -----------------------------------------------------------------------
     void RefreshStatusPanel();
     void ClearStatusPanel();
@@ -165,6 +185,9 @@ public:
     void ClearTools();
     void ResetDrawState();
     void SelectPaintTool();
+    void PlotPaintErase(bool erase);
+    void PlotShape(tools::Tool tool);
+    void DrawOvalBand();
     void RefreshPaletteMenu();
     void ResetRegionState();
     void mnuFileSaveAsICO();

@@ -73,6 +73,23 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsRemindIfBMP",
          [](Session& s, int) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
+        {"mnuTools",
+         [](Session& s, int i) {
+             if (!s.InArea() || i < 0 || i >= tools::kToolCount) return;
+             s.ClickTool(static_cast<tools::Tool>(i));
+             s.host().NudgePointer();
+         }},
+        {"mnuToolsColorPicker",
+         [](Session& s, int) {
+             if (!s.InArea()) return;
+             s.ClickColorPicker();
+             s.host().NudgePointer();
+         }},
+        {"mnuToolsClear",
+         [](Session& s, int) {
+             s.ClearTools();
+             if (s.InArea()) s.host().NudgePointer();
+         }},
         {"mnuEditSub",
          [](Session& s, int i) {
              if (i == 0) s.UndoStep();

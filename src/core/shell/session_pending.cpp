@@ -4,9 +4,6 @@
 
 namespace vexlo::shell {
 
-void Session::ClearTools() {}
-void Session::ResetDrawState() {}
-void Session::SelectPaintTool() {}
 void Session::RefreshPaletteMenu() {}
 void Session::mnuFileSaveAsICO() {}
 
@@ -15,6 +12,7 @@ void Session::ResetRegionState() {
     RegionEdgeDragged = false;
     RegionRect = {};
     RegionCells = {};
+    Draw.RegionReworked = false;
 }
 
 }  // namespace vexlo::shell

@@ -73,6 +73,11 @@ public:
     QAction* Item(std::string_view name) const;
     // cmdTB(0..25); elements 26 to 30 are the separators between them.
     std::array<QToolButton*, shell::kToolbarCommands> cmdTB{};
+    // The Toolbox: imgPaint .. imgShift in the order of mnuTools, then the Color Picker and
+    // Clear all tools.
+    std::array<QToolButton*, tools::kToolCount> ToolButtons{};
+    QToolButton* imgColorPicker = nullptr;
+    QToolButton* imgClearAllTools = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -85,6 +90,9 @@ private:
     void BuildStatusBar();
     void BuildMenus();
     void BuildToolbar(QWidget* row);
+    void BuildToolbox(QWidget* row);
+    void SyncToolbox();
+    void SyncPointer();
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);
     // The enable rules of one top menu, run as it drops down.
@@ -98,6 +106,7 @@ private:
     bool m_activationScheduled = false;
     bool m_activating = false;
     QWidget* m_form = nullptr;
+    tools::Pointer m_shownPointer;
 };
 
 }  // namespace vexlo::gui

@@ -77,11 +77,6 @@ void FrmVexlo::BuildLayout() {
     picDisp->setObjectName("picDisp");
     picDisp->setGeometry(2, 2, 384, 384);
     picDisp->setFocusPolicy(Qt::StrongFocus);
-    connect(picDisp, &SurfaceView::Moved, this,
-            [this](Qt::MouseButtons, Qt::KeyboardModifiers, int x, int y) {
-                m_session.PointerOverDisp(x, y);
-                SyncStatus();
-            });
 
     BuildPanel(m_form);
 
@@ -106,7 +101,12 @@ void FrmVexlo::BuildLayout() {
     }
     Frames[shell::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
 
-    const int infoTop = kDispTop + 388 + 4;
+    auto* toolbox = new QWidget(m_form);
+    toolbox->setObjectName("Toolbox");
+    toolbox->setGeometry(kDispLeft, kDispTop + 388 + 4, 388, 24);
+    BuildToolbox(toolbox);
+
+    const int infoTop = kDispTop + 388 + 32;
     lblDispXY = MakeLabel(m_form, "", QRect(kDispLeft + 2, infoTop, 96, 16));
     lblDispXY->setObjectName("lblDispXY");
     lblMix = MakeLabel(m_form, "", QRect(kDispLeft + 100, infoTop, 130, 16));

@@ -51,6 +51,7 @@ void FrmVexlo::SyncFromModel() {
             cmdTB[static_cast<std::size_t>(k)]->setEnabled(
                 form.ToolbarEnabled[static_cast<std::size_t>(k)]);
     if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
+    SyncToolbox();
     SyncStatus();
 }
 
