@@ -146,5 +146,31 @@ TEST_F(FrmVexloTest, ToolbarButtonRunsItsItemAndShowsItsTooltip) {
     EXPECT_EQ(window->lblStatusPanel[2]->text(), "16 x 16");
 }
 
+TEST_F(FrmVexloTest, PaintingACellWithThePointerEnablesUndo) {
+    Open();
+    window->Item("mnuFileNew(0)")->trigger();
+    EXPECT_TRUE(window->ToolButtons[0]->isChecked());  // File New selects Paint
+    const QPoint cell(5 * 12 + 2, 7 * 12 + 2);
+    QTest::mousePress(window->picDisp, Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(window->picDisp, Qt::LeftButton, {}, cell);
+    const shell::Session& s = window->session();
+    EXPECT_EQ(s.picImage.GetPixel(5, 7), 0xFFFFFFu);
+    EXPECT_EQ(s.picMask.GetPixel(5, 7), 0u);
+    EXPECT_TRUE(s.Current().Changed);
+    EXPECT_EQ(s.UndoCount(), 2);
+    EXPECT_TRUE(window->cmdTB[6]->isEnabled());
+    window->cmdTB[6]->click();  // Undo
+    EXPECT_EQ(s.picMask.GetPixel(5, 7), 0xFFFFFFu);
+}
+
+TEST_F(FrmVexloTest, AToolNeedsAnIcon) {
+    Open();
+    host.Answer(MsgAnswer::Ok);
+    window->ToolButtons[5]->click();
+    ASSERT_EQ(host.shown.size(), 1u);
+    EXPECT_EQ(host.shown[0].text, "No icon in Editing Area yet");
+    EXPECT_FALSE(window->ToolButtons[5]->isChecked());
+}
+
 }  // namespace
 }  // namespace vexlo::test

@@ -10,10 +10,16 @@
 #include "gui/shell/surface_view.h"
 #include "gui/utilities/frm_vexlo_about.h"
 
+// Resources compiled into the static library must be registered by name before use.
+static void InitResources() {
+    Q_INIT_RESOURCE(toolbar);
+}
+
 namespace vexlo::gui {
 
 FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     : QMainWindow(parent), m_session(m_host), m_commandLine(std::move(commandLine)) {
+    InitResources();
     setWindowTitle("Vexlo");
     m_host.SetRefreshDisplay([this] {
         if (picDisp) picDisp->update();

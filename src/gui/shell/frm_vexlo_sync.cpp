@@ -25,8 +25,10 @@ void SetText(QLabel* label, const std::string& text) {
 void FrmVexlo::SyncFromModel() {
     const shell::FormState& form = m_session.Form;
     picDisp->update();
-    picIcon->update();
-    picMask->update();
+    // The real-size views show the icon only while one is in the Editing Area.
+    const bool inArea = m_session.InArea();
+    picIcon->SetSurface(inArea ? &m_session.PicIcon : nullptr);
+    picMask->SetSurface(inArea ? &m_session.picMask : nullptr);
     for (int i = 0; i < shell::kSlotCount; ++i) {
         const auto k = static_cast<std::size_t>(i);
         picPanelIcon[k]->update();
