@@ -1,11 +1,16 @@
 #pragma once
-// A Host for tests: answers each message box from a queue, records every message shown, and
-// counts the other services. A message with no answer queued fails the test and answers as a
-// closed box would; so does an answer the box has no button for, and an answer left unused.
+// A Host for tests: answers each message box and each dialog from a queue of its kind,
+// records every message shown and every dialog request, and counts the other services. A
+// message or dialog with no answer queued fails the test and answers as a closed box or a
+// cancelled dialog would; so does an answer the box has no button for, and an answer left
+// unused.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/shell/host.h"
@@ -21,12 +26,24 @@ public:
         std::string title;
     };
 
+    struct ColorRequest {
+        std::int32_t color;
+        bool fullOpen;
+    };
+    struct FolderRequest {
+        std::string pattern;
+        std::string startFolder;
+        bool extendable;
+    };
+
     ScriptedHost() = default;
     ScriptedHost(const ScriptedHost&) = delete;
     ScriptedHost& operator=(const ScriptedHost&) = delete;
     ~ScriptedHost() override {
         if (!m_answers.empty())
             ADD_FAILURE() << m_answers.size() << " scripted answer(s) never used";
+        if (const std::size_t dialogs = PendingDialogAnswers(); dialogs != 0)
+            ADD_FAILURE() << dialogs << " scripted dialog answer(s) never used";
     }
 
     // Queues the answer to the next message box.
@@ -56,6 +73,49 @@ public:
     }
     void RefreshDisplay() override { ++refreshCount; }
 
+    // Queues the answer to the next dialog of a kind: a path or folder ("" = cancel), a
+    // COLORREF (-1 = cancel), a printer confirmation with the values it then leaves.
+    void AnswerOpen(std::string path) { m_openAnswers.push_back(std::move(path)); }
+    void AnswerSave(std::string path) { m_saveAnswers.push_back(std::move(path)); }
+    void AnswerColor(std::int32_t color) { m_colorAnswers.push_back(color); }
+    void AnswerPrinter(bool confirmed, std::optional<utilities::PrinterValues> values = {}) {
+        m_printerAnswers.emplace_back(confirmed, values);
+    }
+    void AnswerFolder(std::string folder) { m_folderAnswers.push_back(std::move(folder)); }
+
+    std::string ShowOpen(const utilities::OpenRequest& request) override {
+        openRequests.push_back(request);
+        return Next(m_openAnswers, std::string(), "open dialog: " + request.Filter);
+    }
+    std::string ShowSave(const utilities::SaveRequest& request) override {
+        saveRequests.push_back(request);
+        return Next(m_saveAnswers, std::string(), "save dialog: " + request.Filter);
+    }
+    std::int32_t ShowColor(std::int32_t color, bool fullOpen) override {
+        colorRequests.push_back({color, fullOpen});
+        return Next(m_colorAnswers, std::int32_t{-1}, "color dialog");
+    }
+    bool ShowPrinter(const utilities::PrinterRequest& request) override {
+        printerRequests.push_back(request);
+        const auto answer = Next(m_printerAnswers, PrinterAnswer{false, {}}, "printer dialog");
+        if (answer.first && answer.second) printerValues = *answer.second;
+        return answer.first;
+    }
+    utilities::PrinterValues Printer() const override { return printerValues; }
+    std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override {
+        return AskFolder(pattern, startFolder, false);
+    }
+    // The folder dialog as any caller shows it.
+    std::string AskFolder(const std::string& pattern, const std::string& startFolder,
+                          bool extendable) {
+        folderRequests.push_back({pattern, startFolder, extendable});
+        return Next(m_folderAnswers, std::string(), "folder dialog: " + pattern);
+    }
+    std::size_t PendingDialogAnswers() const {
+        return m_openAnswers.size() + m_saveAnswers.size() + m_colorAnswers.size() +
+               m_printerAnswers.size() + m_folderAnswers.size();
+    }
+
     // The answer of a box closed without a choice.
     static shell::MsgAnswer ClosedAnswer(shell::MsgButtons buttons) {
         switch (buttons) {
@@ -83,9 +143,35 @@ public:
     int doEventsCount = 0;
     int refreshCount = 0;
     int hourglassDepth = 0;
+    std::vector<utilities::OpenRequest> openRequests;
+    std::vector<utilities::SaveRequest> saveRequests;
+    std::vector<ColorRequest> colorRequests;
+    std::vector<utilities::PrinterRequest> printerRequests;
+    std::vector<FolderRequest> folderRequests;
+    // What Printer() answers: the values of the last confirmed printer answer that gave some.
+    utilities::PrinterValues printerValues;
 
 private:
+    using PrinterAnswer = std::pair<bool, std::optional<utilities::PrinterValues>>;
+
+    // The front of a queue; an empty queue fails the test and gives the cancelled answer.
+    template <typename T>
+    static T Next(std::deque<T>& queue, T cancelled, const std::string& what) {
+        if (queue.empty()) {
+            ADD_FAILURE() << "Unexpected " << what;
+            return cancelled;
+        }
+        T answer = std::move(queue.front());
+        queue.pop_front();
+        return answer;
+    }
+
     std::deque<shell::MsgAnswer> m_answers;
+    std::deque<std::string> m_openAnswers;
+    std::deque<std::string> m_saveAnswers;
+    std::deque<std::int32_t> m_colorAnswers;
+    std::deque<PrinterAnswer> m_printerAnswers;
+    std::deque<std::string> m_folderAnswers;
 };
 
 }  // namespace vexlo::test

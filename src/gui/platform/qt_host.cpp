@@ -1,12 +1,20 @@
 #include "gui/platform/qt_host.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QCursor>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 
+#include "gui/platform/dialog_handlers.h"
 #include "gui/platform/message_box.h"
+#include "gui/utilities/cls_vexlo_dialog.h"
+#include "gui/utilities/frm_dir_dialog.h"
 
 namespace vexlo::platform {
+
+QtHost::QtHost() = default;
 
 QtHost::~QtHost() {
     if (m_hourglassDepth > 0) QGuiApplication::restoreOverrideCursor();
@@ -29,6 +37,40 @@ void QtHost::SetHourglass(bool on) {
 
 void QtHost::RefreshDisplay() {
     if (m_refresh) m_refresh();
+}
+
+gui::clsVexloDialog& QtHost::Dialog() {
+    if (!m_dialog) m_dialog = std::make_unique<gui::clsVexloDialog>();
+    return *m_dialog;
+}
+
+std::string QtHost::ShowOpen(const utilities::OpenRequest& request) {
+    return Dialog().ShowOpen(request);
+}
+
+std::string QtHost::ShowSave(const utilities::SaveRequest& request) {
+    return Dialog().ShowSave(request);
+}
+
+std::int32_t QtHost::ShowColor(std::int32_t color, bool fullOpen) {
+    return Dialog().ShowColor(color, fullOpen);
+}
+
+bool QtHost::ShowPrinter(const utilities::PrinterRequest& request) {
+    return Dialog().ShowPrinter(request);
+}
+
+utilities::PrinterValues QtHost::Printer() const {
+    return m_dialog ? m_dialog->Printer() : utilities::PrinterValues{};
+}
+
+std::string QtHost::GetFolderSpec(const std::string& pattern, const std::string& startFolder) {
+    // A scripted folder dialog answers without touching the current directory.
+    if (const auto handler = CurrentDialogHandlers().folder)
+        return handler(pattern, startFolder, false);
+    const QString start = QString::fromStdString(startFolder);
+    if (!start.isEmpty() && QFileInfo(start).isDir()) QDir::setCurrent(start);
+    return gui::frmDirDialog::Ask(pattern, std::string(), false, QApplication::activeWindow());
 }
 
 }  // namespace vexlo::platform

@@ -1,16 +1,22 @@
 #pragma once
 // The session's platform services on Qt: message boxes through ShowMessageBox, DoEvents,
-// the hourglass pointer and the repaint of the Editing Area.
+// the hourglass pointer, the repaint of the Editing Area, and the common dialogs and the
+// folder dialog (each replaceable through platform/dialog_handlers.h).
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "core/shell/host.h"
+
+namespace vexlo::gui {
+class clsVexloDialog;
+}
 
 namespace vexlo::platform {
 
 class QtHost : public shell::Host {
 public:
-    QtHost() = default;
+    QtHost();
     // Removes the hourglass if it is still shown.
     ~QtHost() override;
     QtHost(const QtHost&) = delete;
@@ -24,13 +30,25 @@ public:
     void SetHourglass(bool on) override;
     void RefreshDisplay() override;
 
+    std::string ShowOpen(const utilities::OpenRequest& request) override;
+    std::string ShowSave(const utilities::SaveRequest& request) override;
+    std::int32_t ShowColor(std::int32_t color, bool fullOpen) override;
+    bool ShowPrinter(const utilities::PrinterRequest& request) override;
+    utilities::PrinterValues Printer() const override;
+    // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
+    // not extendable. The folder chosen, or "".
+    std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+
     // What RefreshDisplay calls; set by the window that shows the Editing Area.
     void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
     int HourglassDepth() const { return m_hourglassDepth; }
+    // The common dialogs, made on first use and kept for the whole run.
+    gui::clsVexloDialog& Dialog();
 
 private:
     int m_hourglassDepth = 0;
     std::function<void()> m_refresh;
+    std::unique_ptr<gui::clsVexloDialog> m_dialog;
 };
 
 }  // namespace vexlo::platform
