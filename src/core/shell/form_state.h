@@ -55,8 +55,12 @@ struct FormState {
     bool RemindIfBmpChecked = true;                            // mnuOptionsRemindIfBMP
     int PaletteMode = 0;     // the ticked item of mnuPaletteSub: 0 16 colors, 1 256 colors
     int BrushSizeIndex = 0;  // cboBrushSize's index; mnuBrushSize(i) is ticked for i
-    bool ColorChart0Visible = false;  // picColorChart(0)
+    // fraofColorPanel(2), the 256-Color Palette with picColorChart(0), is shown; otherwise
+    // fraofColorPanel(3), the 16-Color Palette with picColorChart(1).
+    bool ColorChart0Visible = true;
     bool ColorMixerVisible = false;   // fraColorMixer
+    bool ColorPickerEnabled = true;   // imgColorPicker.Enabled
+    bool ColorDoubleClicked = false;  // a double click on picColorToUse awaits its release
     tools::Tool SelectedTool = tools::Tool::None;  // the tool whose picture is framed
     bool ColorPickerSelected = false;              // imgColorPicker
     tools::Pointer PointerOfDisp;                  // picDisp's pointer shape

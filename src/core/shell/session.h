@@ -150,6 +150,23 @@ public:
     // The brush number: the number in the text of cboBrushSize.
     int BrushNumber() const { return Form.BrushSizeIndex + 1; }
 
+    // --- Colors Panel -----------------------------------------------------------------------
+    // picColorChart(0) the 48 colors, (1) the sixteen named ones, (2) a fixed picture.
+    std::array<Surface, 3> picColorChart;
+    void CreateColorChart16();
+    void CreateColorChart256();
+    void SwitchTo16ColorChart();   // imgGet16ColorChart
+    void SwitchTo256ColorChart();  // imgGet256ColorChart
+    void ClickPaletteSub(int index);
+    void SetPaletteModeForIcon();
+    // A pointer release on picColorChart(k) at (x, y) in its pixels.
+    void ReleaseOnColorChart(int k, double x, double y);
+    // The name of the 16-color entry under (x, y), empty elsewhere.
+    std::string Chart16Tooltip(double x, double y) const;
+    void DoubleClickColorToUse() { Form.ColorDoubleClicked = true; }
+    void ReleaseOnColorToUse();
+    void PopColorChart();
+
     // --- Status bar -----------------------------------------------------------------------
     void RefreshStatusPanel();
     void ClearStatusPanel();
@@ -157,6 +174,21 @@ public:
     void SetProgressVisible(bool visible);
     void ShowProgress(int percent, bool withNumber);
     void PointerOverForm();
+
+    // --- Icon files -------------------------------------------------------------------------
+    // Puts an icon file into the current slot; true if the slot was filled.
+    bool LoadIconFile(const std::string& path, bool askForImage);
+    // File Open of an icon file: the dialog, then the load.
+    void OpenIconFile();
+    bool SaveIconFile(const std::string& path, bool force256);
+    // The save dialog of a kind (1 Save As, 2 forced to 256 colors, 3 cursor, 4 bitmap) and
+    // the save; true if saved.
+    bool SaveDialogFlow(int kind);
+    std::string SuggestedSaveName() const;
+    void mnuFileSaveICO();
+    void mnuFileSaveAsICO();
+    void mnuFileSaveAsICOForce256();
+    bool CopyIncomingAlphaToSlot();
 
     // --- Commands -------------------------------------------------------------------------
     // The facts that the enable rules of menus and toolbar read, as they stand now.
@@ -187,10 +219,10 @@ public:
     void SelectPaintTool();
     void PlotPaintErase(bool erase);
     void PlotShape(tools::Tool tool);
+    void PlotOval(bool filled);
     void DrawOvalBand();
     void RefreshPaletteMenu();
     void ResetRegionState();
-    void mnuFileSaveAsICO();
 
 private:
     void RestoreUndoEntry(const Surface& entry);

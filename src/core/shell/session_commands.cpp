@@ -66,6 +66,9 @@ bool Session::RunMenuItem(std::string_view name) {
     static const std::unordered_map<std::string, Handler> kHandlers = {
         {"mnuFileNew", [](Session& s, int i) { s.FileNew(i); }},
         {"mnuFileOpen", [](Session& s, int i) { s.FileOpen(i); }},
+        {"mnuFileSaveICO", [](Session& s, int) { s.mnuFileSaveICO(); }},
+        {"mnuFileSaveAsICO", [](Session& s, int) { s.mnuFileSaveAsICO(); }},
+        {"mnuFileSaveAsICOForce256", [](Session& s, int) { s.mnuFileSaveAsICOForce256(); }},
         {"mnuOptionsGridline", [](Session& s, int i) { s.ClickGridline(i); }},
         {"mnuOptionsDisplayMask", [](Session& s, int) { s.ClickDisplayMask(); }},
         {"mnuOptionsPromptToSave",
@@ -73,6 +76,7 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsRemindIfBMP",
          [](Session& s, int) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
+        {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {
              if (!s.InArea() || i < 0 || i >= tools::kToolCount) return;

@@ -66,6 +66,7 @@ bool Session::Load(int screenWidth, int screenHeight) {
     }
     // Every Surface starts at 32x32, picDisp at its fixed size.
     MagnifyStep = 12;
+    Form.ColorChart0Visible = true;
     Form.GridlineChecked = {false, false, false};
     Form.DisplayMaskChecked = true;
     Form.PromptToSaveChecked = false;
@@ -77,6 +78,8 @@ bool Session::Load(int screenWidth, int screenHeight) {
     picDisp.SetBackColor(kTransparentGray);
     Form.GridlineChecked[0] = true;
     GridColor = tools::kGridLight;
+    CreateColorChart16();
+    CreateColorChart256();
     ClearStatusPanel();
     SetInfoLabels(Form.Status.InfoLabelsVisible);
     IncomingAlpha.SetSingle();
@@ -90,6 +93,7 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
     if (keepWorkingDir) *keepWorkingDir = false;
     RefreshToolbar();
     ShowFrame(Frame::ColorsPanel);
+    SwitchTo16ColorChart();
     CurrentSlot = 0;
     CurrentPath.clear();
     for (int i = 0; i < kSlotCount; ++i)
@@ -103,9 +107,16 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
         std::error_code ec;
         if (std::filesystem::exists(CurrentPath, ec)) {
             const std::string ext = UpperExtension3(CurrentPath);
-            // ICO, CUR and ANI files open through their readers as those arrive.
-            result = ext == "ICO" || ext == "CUR" || ext == "ANI" ? CommandLineResult::LoadFailed
-                                                                   : CommandLineResult::Ignored;
+            result = CommandLineResult::Ignored;
+            if (ext == "ICO") {
+                const bool loaded = LoadIconFile(CurrentPath, false);
+                result = loaded ? CommandLineResult::Loaded : CommandLineResult::LoadFailed;
+                RefreshPaletteMenu();
+                if (keepWorkingDir) *keepWorkingDir = loaded;
+            } else if (ext == "CUR" || ext == "ANI") {
+                // Cursor and animated cursor files open through their readers as they arrive.
+                result = CommandLineResult::LoadFailed;
+            }
         } else {
             m_host.MsgBox(CurrentPath + " not found", MsgButtons::Ok, MsgIcon::None, kTitle);
             result = CommandLineResult::NotFound;

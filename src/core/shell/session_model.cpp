@@ -22,6 +22,7 @@ Session::Session(Host& host)
       picMaskTemp(32, 32, kBlack),
       picTemp(32, 32, kWhite),
       picAuto(32, 32, kWhite),
+      picColorChart{Surface(256, 48, kWhite), Surface(160, 40, kWhite), Surface(32, 32, kWhite)},
       m_host(host) {
     PicGrid.ForeColor = tools::kGridForeColor;
     for (int i = 0; i < kSlotCount; ++i) {

@@ -168,7 +168,8 @@ void Session::FileOpen(int entry) {
         return;
     }
     if (!GuardReplaceCurrent()) return;
-    // The readers of each kind of file take over from here as they arrive.
+    if (entry == 0) OpenIconFile();
+    // Folders, cursor files and pictures open through their own readers as they arrive.
 }
 
 }  // namespace vexlo::shell

@@ -4,8 +4,7 @@
 
 namespace vexlo::shell {
 
-void Session::RefreshPaletteMenu() {}
-void Session::mnuFileSaveAsICO() {}
+void Session::RefreshPaletteMenu() { SetPaletteModeForIcon(); }
 
 void Session::ResetRegionState() {
     RegionExists = false;

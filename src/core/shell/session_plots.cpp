@@ -53,21 +53,59 @@ void Session::PlotShape(Tool t) {
             picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
             break;
         case Tool::Rectangle:
+            picImage.FillStyle = surface::kFillStyleTransparent;
+            picMask.FillStyle = surface::kFillStyleTransparent;
+            picImage.FillColor = SelectedColor;
             picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
             picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
             break;
         case Tool::FilledRectangle:
+            picImage.FillStyle = surface::kFillStyleSolid;
+            picMask.FillStyle = surface::kFillStyleSolid;
+            picImage.FillColor = SelectedColor;
             picImage.FillBox(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.FillBox(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            break;
+        case Tool::Oval:
+        case Tool::FilledOval:
+            PlotOval(t == Tool::FilledOval);
             break;
         default:
-            // Ovals and the Spotlight plot with the Surface's ellipses.
+            // The Spotlight plots with its own color ramp.
             break;
     }
     picImage.DrawWidth = notedWidth;
     picMask.DrawWidth = notedWidth;
     picImage.DrawStyle = surface::kDrawStyleSolid;
     picMask.DrawStyle = surface::kDrawStyleSolid;
+}
+
+void Session::PlotOval(bool filled) {
+    const tools::CellRect& r = Draw.Shape;
+    const int width = tools::ShapeGeometry(r.Left, r.Top, r.Right, r.Bottom, Draw);
+    m_host.DoEvents();
+    if (width <= 0) return;
+    for (Surface* plane : {&picImage, &picMask}) plane->DrawMode = surface::kDrawModeCopyPen;
+    picImage.FillColor = SelectedColor;
+    picMask.FillColor = kBlack;
+    const double cx = Draw.OvalCenterX, cy = Draw.OvalCenterY, radius = Draw.OvalRadius;
+    const double aspect = Draw.OvalAspect;
+    if (!filled) {
+        picImage.FillStyle = surface::kFillStyleTransparent;
+        picMask.FillStyle = surface::kFillStyleTransparent;
+        // Two arcs close the ellipse; 6 is the whole number that 2 pi rounds to.
+        picImage.CircleArc(cx, cy, radius, SelectedColor, 0, 6, aspect);
+        picMask.CircleArc(cx, cy, radius, kBlack, 0, 6, aspect);
+        picImage.CircleArc(cx, cy, radius, SelectedColor, 6, 0, aspect);
+        picMask.CircleArc(cx, cy, radius, kBlack, 6, 0, aspect);
+        return;
+    }
+    picImage.FillStyle = surface::kFillStyleSolid;
+    picMask.FillStyle = surface::kFillStyleSolid;
+    picImage.DrawWidth = 2;
+    picMask.DrawWidth = 2;
+    picImage.Circle(cx, cy, radius, SelectedColor, aspect);
+    picMask.Circle(cx, cy, radius, kBlack, aspect);
 }
 
 }  // namespace vexlo::shell

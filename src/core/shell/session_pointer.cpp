@@ -124,7 +124,8 @@ void Session::DrawOvalBand() {
     if (tools::ShapeGeometry(Band.Left, Band.Top, Band.Right, Band.Bottom, Draw) <= 0) return;
     picDisp.DrawMode = surface::kDrawModeInvert;
     picDisp.DrawStyle = surface::kDrawStyleDot;
-    // The ellipse inside the band box follows with the Surface's ellipse drawing.
+    picDisp.Circle(Draw.OvalCenterX, Draw.OvalCenterY, Draw.OvalRadius, picDisp.ForeColor,
+                   Draw.OvalAspect);
     picDisp.DrawMode = surface::kDrawModeCopyPen;
     picDisp.DrawStyle = surface::kDrawStyleSolid;
 }

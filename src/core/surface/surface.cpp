@@ -93,11 +93,20 @@ void Surface::StyledLine(int x1, int y1, int x2, int y2, Color c, int* styleStep
 }
 
 void Surface::Line(int x1, int y1, int x2, int y2, Color c) {
+    if (DrawWidth > 1) {
+        WideLine(x1, y1, x2, y2, c);  // surface_pen.cpp
+        return;
+    }
     int step = 0;
     StyledLine(x1, y1, x2, y2, c, &step);
 }
 
 void Surface::Box(int x1, int y1, int x2, int y2, Color c) {
+    if (DrawWidth > 1) {
+        WideBox(x1, y1, x2, y2, c);  // surface_pen.cpp
+        return;
+    }
+    if (FillStyle == kFillStyleSolid) FillBoxInterior(x1, y1, x2, y2);
     int step = 0;
     if (x1 == x2 || y1 == y2) {
         // A box of one row or column: every pixel once, both ends included.

@@ -10,6 +10,16 @@
 // (invert) turns every touched pixel p into p XOR 0xFFFFFF and ignores the color; DrawStyle 0
 // is solid, DrawStyle 2 dotted (3 pixels on, 3 off, gaps left untouched). Lines follow GDI:
 // the end point is left out. Boxes include both corners.
+//
+// Pens wider than 1 (DrawWidth > 1) are round, like a GDI geometric pen with round caps and
+// joins: a wide line covers the pixels whose centre lies within DrawWidth/2 of the segment,
+// both ends included; the dot style is for width 1 only, a wider pen always draws solid. An
+// odd width is centred on the pixel centres; an even width cannot be, so a line's segment is
+// moved half a pixel up and left (as GDI does), while the outlines of boxes and ellipses put
+// the extra pixel on their inner side, so that they stay symmetric about their centre.
+// Boxes and ellipses fill their interior with FillColor when FillStyle is 0. Each call touches
+// every pixel at most once, so in invert mode drawing the same shape twice restores the picture.
+// The exact pixel rules are told in full at the top of surface_pen.cpp and surface_ellipse.cpp.
 #include <cstdint>
 #include <vector>
 
@@ -24,6 +34,8 @@ inline constexpr int kDrawModeInvert = 6;   // vbInvert, R2_NOT
 inline constexpr int kDrawModeCopyPen = 13; // vbCopyPen, R2_COPYPEN
 inline constexpr int kDrawStyleSolid = 0;
 inline constexpr int kDrawStyleDot = 2;
+inline constexpr int kFillStyleSolid = 0;        // vbFSSolid
+inline constexpr int kFillStyleTransparent = 1;  // vbFSTransparent
 
 // Raster operations with their GDI codes.
 enum class Rop : std::uint32_t {
@@ -55,11 +67,14 @@ public:
     Color BackColor() const { return m_backColor; }
     void SetBackColor(Color c) { m_backColor = c & kRgbMask; }
 
-    // Pen state used by Line, Box and FillBox.
+    // Pen state used by Line, Box, FillBox, Circle and CircleArc. A DrawWidth below 1 draws as 1.
     Color ForeColor = 0x000000;
     int DrawMode = kDrawModeCopyPen;
     int DrawStyle = kDrawStyleSolid;
     int DrawWidth = 1;
+    // Brush state: the interior of Box and Circle (not CircleArc) gets FillColor under FillStyle 0.
+    int FillStyle = kFillStyleTransparent;
+    Color FillColor = 0x000000;
 
     void Clear();
     void Cls();
@@ -87,11 +102,28 @@ public:
     // A line from (x1,y1) towards (x2,y2), end point left out, in the pen state.
     void Line(int x1, int y1, int x2, int y2, Color c);
     void Line(int x1, int y1, int x2, int y2) { Line(x1, y1, x2, y2, ForeColor); }
-    // The outline of the box with corners (x1,y1) and (x2,y2), both included.
+    // The outline of the box with corners (x1,y1) and (x2,y2), both included, at DrawWidth
+    // (a wide outline is centred on the edges, an even width's extra pixel inside); with
+    // FillStyle 0 the pixels of the box that the outline leaves free get FillColor.
     void Box(int x1, int y1, int x2, int y2, Color c);
     void Box(int x1, int y1, int x2, int y2) { Box(x1, y1, x2, y2, ForeColor); }
     // The filled box with corners (x1,y1) and (x2,y2), both included, clipped to the Surface.
     void FillBox(int x1, int y1, int x2, int y2, Color c);
+
+    // The closed ellipse around (cx, cy). With aspect <= 1 the radius is the horizontal one and
+    // the vertical one is radius * aspect; with aspect > 1 the radius is the vertical one and the
+    // horizontal one is radius / aspect (negative values count as their size). The ellipse fills
+    // the box of pixels from (cx - rx, cy - ry) to (cx + rx, cy + ry). Outline at DrawWidth, dotted
+    // under DrawStyle 2 at width 1, interior by FillStyle and FillColor. A flat ellipse (vertical
+    // radius 0, as with aspect 0) is the line from (cx - rx, cy) to (cx + rx, cy), both ends drawn.
+    void Circle(double cx, double cy, double radius, Color c, double aspect = 1.0);
+    void Circle(double cx, double cy, double radius) { Circle(cx, cy, radius, ForeColor); }
+    // The part of the same outline whose pixel centres, seen from (cx, cy), lie at an angle from
+    // startAngle up to (not including) endAngle, in radians counterclockwise on the screen from
+    // the positive x axis; start > end wraps through 0, equal angles give the whole outline.
+    // Never filled. A wide pen rounds the two ends.
+    void CircleArc(double cx, double cy, double radius, Color c, double startAngle,
+                   double endAngle, double aspect = 1.0);
 
     // Plots one pixel under the pen's DrawMode (no style).
     void PlotPen(int x, int y, Color c);
@@ -110,6 +142,14 @@ private:
     // Walks the GDI line from (x1,y1) to (x2,y2) without its end point, continuing the dot
     // pattern from *styleStep.
     void StyledLine(int x1, int y1, int x2, int y2, Color c, int* styleStep);
+    // DrawWidth > 1: the round pen's line and box outline (surface_pen.cpp).
+    void WideLine(int x1, int y1, int x2, int y2, Color c);
+    void WideBox(int x1, int y1, int x2, int y2, Color c);
+    // FillColor into the pixels strictly inside the box (the interior of a width-1 outline).
+    void FillBoxInterior(int x1, int y1, int x2, int y2);
+    // Circle and CircleArc (surface_ellipse.cpp); isArc false draws the whole closed ellipse.
+    void DrawEllipse(double cx, double cy, double radius, Color c, double aspect, bool isArc,
+                     double startAngle, double endAngle);
 
     int m_width = 0;
     int m_height = 0;

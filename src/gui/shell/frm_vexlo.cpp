@@ -13,6 +13,7 @@
 // Resources compiled into the static library must be registered by name before use.
 static void InitResources() {
     Q_INIT_RESOURCE(toolbar);
+    Q_INIT_RESOURCE(toolbox);
 }
 
 namespace vexlo::gui {

@@ -11,6 +11,8 @@
 #include "gui/platform/qt_host.h"
 
 class QAction;
+class QComboBox;
+class QGroupBox;
 class QLabel;
 class QFrame;
 class QMenu;
@@ -78,6 +80,11 @@ public:
     std::array<QToolButton*, tools::kToolCount> ToolButtons{};
     QToolButton* imgColorPicker = nullptr;
     QToolButton* imgClearAllTools = nullptr;
+    // Inside fraColorsPanel.
+    std::array<QGroupBox*, 4> fraofColorPanel{};
+    QComboBox* cboBrushSize = nullptr;
+    SurfaceView* picColorToUse = nullptr;
+    QGroupBox* fraColorMixer = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -92,6 +99,8 @@ private:
     void BuildToolbar(QWidget* row);
     void BuildToolbox(QWidget* row);
     void SyncToolbox();
+    void BuildColorsPanel(QFrame* panel);
+    void SyncColorsPanel();
     void SyncPointer();
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);

@@ -94,12 +94,15 @@ void FrmVexlo::BuildLayout() {
         frame->setFrameShape(QFrame::StyledPanel);
         frame->setGeometry(kRightLeft, kFramesTop, kRightWidth, kFramesHeight);
         frame->setObjectName(QString("fra%1").arg(f));
-        auto* caption = new QLabel(kFrameCaptions[f], frame);
-        caption->move(6, 4);
+        if (f != static_cast<int>(shell::Frame::ColorsPanel)) {
+            auto* caption = new QLabel(kFrameCaptions[f], frame);
+            caption->move(6, 4);
+        }
         frame->hide();
         Frames[static_cast<shell::Frame>(f)] = frame;
     }
     Frames[shell::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
+    BuildColorsPanel(Frames[shell::Frame::ColorsPanel]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -54,6 +54,7 @@ void FrmVexlo::SyncFromModel() {
                 form.ToolbarEnabled[static_cast<std::size_t>(k)]);
     if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
     SyncToolbox();
+    SyncColorsPanel();
     SyncStatus();
 }
 

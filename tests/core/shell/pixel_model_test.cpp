@@ -109,6 +109,7 @@ TEST(PanelSwitching, LeavingAChangedIcon) {
         const Surface image = s.picImage, disp = s.picDisp;
         const auto labels = s.Form.PanelLabelBack;
         if (c.answer) f.host.Answer(*c.answer);
+        if (c.answer == A::Yes) f.host.AnswerSave("");  // Yes runs Save As; cancel it
         s.ClickPanel(3);
         ASSERT_EQ(f.host.shown.size(), c.answer ? 1u : 0u);
         if (c.answer) {
@@ -193,6 +194,7 @@ TEST(PanelSwitching, FileNewAsksBeforeReplacingAnUnsavedIcon) {
         s.Current().NeverSaved = c.neverSaved;
         const Surface disp = s.picDisp;
         if (c.answer) f.host.Answer(*c.answer);
+        if (c.answer == A::Yes) f.host.AnswerSave("");  // Yes runs Save As; cancel it
         s.FileNew(2);
         EXPECT_EQ(f.host.shown.size(), c.answer ? 1u : 0u);
         EXPECT_EQ(s.Current().SizeCode, c.replaced ? 3 : 2);
