@@ -1,6 +1,8 @@
 #include "gui/platform/qt_host.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDir>
@@ -33,6 +35,17 @@ void QtHost::SetHourglass(bool on) {
     } else if (m_hourglassDepth > 0) {
         if (--m_hourglassDepth == 0) QGuiApplication::restoreOverrideCursor();
     }
+}
+
+void QtHost::NudgePointer() {
+    const QPoint p = QCursor::pos();
+    QCursor::setPos(p.x() > 0 ? p.x() - 1 : p.x() + 1, p.y() > 0 ? p.y() - 1 : p.y() + 1);
+    QCursor::setPos(p);
+}
+
+bool QtHost::ClipboardHasBitmap() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasImage();
 }
 
 void QtHost::RefreshDisplay() {

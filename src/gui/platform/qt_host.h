@@ -29,6 +29,10 @@ public:
     // override is pushed while the depth is above 0.
     void SetHourglass(bool on) override;
     void RefreshDisplay() override;
+    // Moves the pointer one pixel towards the screen's origin (away on an axis where it
+    // stands at 0) and back, so that the widget under it updates its pointer shape.
+    void NudgePointer() override;
+    bool ClipboardHasBitmap() override;
 
     std::string ShowOpen(const utilities::OpenRequest& request) override;
     std::string ShowSave(const utilities::SaveRequest& request) override;
