@@ -109,6 +109,10 @@ public:
     void ShowIcon();
     void ParkIcon();
     void UnparkIcon();
+    // A free slot opened: an empty 32x32 Editing Area.
+    void OpenEmptySlot();
+    // lblPanelIcon(k) white, the others light gray.
+    void MarkCurrentLabel(int k);
 
     // --- Panel, frames and the commands that replace the current icon ----------------------
     void ShowFrame(Frame frame);

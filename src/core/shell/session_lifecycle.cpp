@@ -96,9 +96,7 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
     SwitchTo16ColorChart();
     CurrentSlot = 0;
     CurrentPath.clear();
-    for (int i = 0; i < kSlotCount; ++i)
-        Form.PanelLabelBack[static_cast<std::size_t>(i)] =
-            i == 0 ? kPanelLabelCurrent : kPanelLabelOther;
+    MarkCurrentLabel(0);
     m_host.DoEvents();
 
     CommandLineResult result = CommandLineResult::Empty;

@@ -157,12 +157,22 @@ void Session::UnparkIcon() {
         if (!s.InEditingArea) RebuildFromPanel();
         return;
     }
+    OpenEmptySlot();
+}
+
+void Session::OpenEmptySlot() {
     picDisp.Clear();
     ClearSlot();
     Current().SizeCode = 2;
     SetWorkSize(2);
     ClearStatusPanel();
     ClearTools();
+}
+
+void Session::MarkCurrentLabel(int k) {
+    for (int i = 0; i < kSlotCount; ++i)
+        Form.PanelLabelBack[static_cast<std::size_t>(i)] =
+            i == k ? kPanelLabelCurrent : kPanelLabelOther;
 }
 
 }  // namespace vexlo::shell

@@ -71,22 +71,14 @@ void Session::ClickPanel(int k) {
     }
     if (k == CurrentSlot) return;
     CurrentSlot = k;
-    for (int i = 0; i < kSlotCount; ++i)
-        Form.PanelLabelBack[static_cast<std::size_t>(i)] =
-            i == k ? kPanelLabelCurrent : kPanelLabelOther;
+    MarkCurrentLabel(k);
     if (Form.VisibleFrame == Frame::IconsList) return;
 
     Hourglass hourglass(m_host);
-    if (!Current().Occupied) {
-        picDisp.Clear();
-        ClearSlot();
-        Current().SizeCode = 2;
-        SetWorkSize(2);
-        ClearStatusPanel();
-        ClearTools();
-    } else {
+    if (!Current().Occupied)
+        OpenEmptySlot();
+    else
         RebuildFromPanel();
-    }
     if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     RefreshPaletteMenu();
     RefreshToolbar();
