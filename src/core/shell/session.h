@@ -6,6 +6,9 @@
 #include <array>
 #include <string>
 
+#include <optional>
+
+#include "core/effects/shades.h"
 #include "core/shell/form_state.h"
 #include "core/shell/host.h"
 #include "core/shell/icon_slot.h"
@@ -170,6 +173,26 @@ public:
     void DoubleClickColorToUse() { Form.ColorDoubleClicked = true; }
     void ReleaseOnColorToUse();
     void PopColorChart();
+
+    // --- Shades effects ---------------------------------------------------------------------
+    struct ShadesState {
+        std::string Caption;  // of fraEffectsShades
+        int EffectCode = 0;   // ShadeEffectCode
+        bool UseSelectedColorVisible = false;
+        bool UseSelectedColorChecked = false;
+        bool CastControlsVisible = false;
+        effects::CastControls Cast;
+        std::optional<effects::ShadesPreview> Preview;  // picEffectsSample(0..1)
+    } Shades;
+    effects::IconPlanes Planes() const;
+    // mnuEffectsSub(1..7): the frame and its first preview.
+    void ClickEffectsSub(int index);
+    void RunShadesPreview();
+    void ClickUseSelectedColor(bool checked);
+    void CastSliderChanged(int value);
+    void CastComboClicked(int element, int listIndex);
+    void ShadesProceed();   // cmdShadesProceed(0)
+    void ShadesRestore();   // cmdShadesProceed(1)
 
     // --- Status bar -----------------------------------------------------------------------
     void RefreshStatusPanel();

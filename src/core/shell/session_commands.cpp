@@ -76,6 +76,7 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsRemindIfBMP",
          [](Session& s, int) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
+        {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {

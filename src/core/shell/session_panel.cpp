@@ -29,6 +29,7 @@ void Session::ShowFrame(Frame frame) {
     }
     Form.VisibleFrame = Frame::None;
     ClearTools();
+    Shades.Preview.reset();  // leaving the frame by any way discards the preview
     Form.VisibleFrame = frame;
     Form.Status.InfoLabelsVisible = frame == Frame::ColorsPanel;
     if (frame == Frame::IconsList) {

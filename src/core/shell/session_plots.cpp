@@ -63,7 +63,9 @@ void Session::PlotShape(Tool t) {
             picImage.FillStyle = surface::kFillStyleSolid;
             picMask.FillStyle = surface::kFillStyleSolid;
             picImage.FillColor = SelectedColor;
-            picImage.FillBox(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
+            // The filled box in the selected color takes the same pen as the mask's box, so
+            // that a wide brush covers the same pixels in both planes.
+            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
             picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
             break;
         case Tool::Oval:

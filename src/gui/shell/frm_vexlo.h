@@ -6,11 +6,15 @@
 #include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "core/shell/session.h"
 #include "gui/platform/qt_host.h"
 
 class QAction;
+class QCheckBox;
+class QPushButton;
+class QScrollBar;
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -85,6 +89,15 @@ public:
     QComboBox* cboBrushSize = nullptr;
     SurfaceView* picColorToUse = nullptr;
     QGroupBox* fraColorMixer = nullptr;
+    // Inside fraEffectsShades.
+    QLabel* lblShadesCaption = nullptr;
+    QLabel* lblEffectsSample = nullptr;
+    std::array<SurfaceView*, 2> picEffectsSample{};
+    QCheckBox* ckbUseSelectedColor = nullptr;
+    std::array<QComboBox*, 3> cboCast{};
+    QScrollBar* hsrCast = nullptr;
+    std::array<QLabel*, 2> lblCast{};
+    std::array<QPushButton*, 2> cmdShadesProceed{};
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -101,6 +114,8 @@ private:
     void SyncToolbox();
     void BuildColorsPanel(QFrame* panel);
     void SyncColorsPanel();
+    void BuildShadesFrame(QFrame* frame);
+    void SyncShades();
     void SyncPointer();
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);
@@ -116,6 +131,8 @@ private:
     bool m_activating = false;
     QWidget* m_form = nullptr;
     tools::Pointer m_shownPointer;
+    std::vector<QWidget*> castWidgets;  // shown only for Cast
+    bool m_syncing = false;             // controls are being written from the session
 };
 
 }  // namespace vexlo::gui

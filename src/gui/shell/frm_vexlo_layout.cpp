@@ -94,7 +94,8 @@ void FrmVexlo::BuildLayout() {
         frame->setFrameShape(QFrame::StyledPanel);
         frame->setGeometry(kRightLeft, kFramesTop, kRightWidth, kFramesHeight);
         frame->setObjectName(QString("fra%1").arg(f));
-        if (f != static_cast<int>(shell::Frame::ColorsPanel)) {
+        if (f != static_cast<int>(shell::Frame::ColorsPanel) &&
+            f != static_cast<int>(shell::Frame::EffectsShades)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
@@ -103,6 +104,7 @@ void FrmVexlo::BuildLayout() {
     }
     Frames[shell::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
     BuildColorsPanel(Frames[shell::Frame::ColorsPanel]);
+    BuildShadesFrame(Frames[shell::Frame::EffectsShades]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -55,6 +55,7 @@ void FrmVexlo::SyncFromModel() {
     if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
     SyncToolbox();
     SyncColorsPanel();
+    SyncShades();
     SyncStatus();
 }
 

@@ -1,0 +1,106 @@
+// fraEffectsShades: the preview pair of a shades effect, its options, Proceed and Restore.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "gui/shell/frm_vexlo.h"
+#include "gui/shell/surface_view.h"
+
+namespace vexlo::gui {
+
+void FrmVexlo::BuildShadesFrame(QFrame* frame) {
+    lblShadesCaption = new QLabel(frame);
+    lblShadesCaption->setGeometry(8, 4, 250, 18);
+    QFont bold = lblShadesCaption->font();
+    bold.setBold(true);
+    lblShadesCaption->setFont(bold);
+
+    lblEffectsSample = new QLabel("Preview", frame);
+    lblEffectsSample->setAlignment(Qt::AlignCenter);
+    lblEffectsSample->setGeometry(8, 26, 250, 16);
+    for (int i = 0; i < 2; ++i) {
+        auto* view = new SurfaceView(nullptr, frame);
+        view->setObjectName(QString("picEffectsSample%1").arg(i));
+        view->SetScale(2);
+        view->SetCentred(true);
+        view->setGeometry(20 + i * 120, 44, 100, 100);
+        picEffectsSample[static_cast<std::size_t>(i)] = view;
+    }
+
+    ckbUseSelectedColor = new QCheckBox(QString::fromUtf8(effects::kUseSelectedColorCaption.data(),
+                                                          static_cast<int>(effects::kUseSelectedColorCaption.size())),
+                                        frame);
+    ckbUseSelectedColor->setGeometry(8, 150, 260, 20);
+    connect(ckbUseSelectedColor, &QCheckBox::clicked, this, [this](bool checked) {
+        Run([checked](shell::Session& s) { s.ClickUseSelectedColor(checked); });
+    });
+
+    static const char* const kChannel[3] = {"R", "G", "B"};
+    for (int i = 0; i < 3; ++i) {
+        auto* label = new QLabel(kChannel[i], frame);
+        label->setGeometry(10 + i * 84, 152, 12, 20);
+        auto* list = new QComboBox(frame);
+        for (const std::string& entry : effects::CastListEntries()) list->addItem(QString::fromStdString(entry));
+        list->setGeometry(24 + i * 84, 150, 62, 22);
+        connect(list, &QComboBox::activated, this, [this, i](int index) {
+            Run([i, index](shell::Session& s) { s.CastComboClicked(i, index); });
+        });
+        cboCast[static_cast<std::size_t>(i)] = list;
+        castWidgets.push_back(label);
+        castWidgets.push_back(list);
+    }
+    lblCast[0] = new QLabel("Darker", frame);
+    lblCast[0]->setGeometry(8, 178, 50, 18);
+    hsrCast = new QScrollBar(Qt::Horizontal, frame);
+    hsrCast->setRange(0, 255);
+    hsrCast->setGeometry(58, 178, 150, 18);
+    connect(hsrCast, &QScrollBar::valueChanged, this, [this](int value) {
+        if (m_syncing) return;
+        Run([value](shell::Session& s) { s.CastSliderChanged(value); });
+    });
+    lblCast[1] = new QLabel("Lighter", frame);
+    lblCast[1]->setGeometry(212, 178, 50, 18);
+    castWidgets.insert(castWidgets.end(), {lblCast[0], hsrCast, lblCast[1]});
+
+    cmdShadesProceed[0] = new QPushButton(QString::fromUtf8(effects::kProceedCaption.data(),
+                                                            static_cast<int>(effects::kProceedCaption.size())),
+                                          frame);
+    cmdShadesProceed[0]->setGeometry(8, 262, 80, 26);
+    connect(cmdShadesProceed[0], &QPushButton::clicked, this,
+            [this] { Run([](shell::Session& s) { s.ShadesProceed(); }); });
+    cmdShadesProceed[1] = new QPushButton(QString::fromUtf8(effects::kRestoreCaption.data(),
+                                                            static_cast<int>(effects::kRestoreCaption.size())),
+                                          frame);
+    cmdShadesProceed[1]->setToolTip(QString::fromUtf8(effects::kRestoreToolTip.data(),
+                                                      static_cast<int>(effects::kRestoreToolTip.size())));
+    cmdShadesProceed[1]->setGeometry(94, 262, 80, 26);
+    connect(cmdShadesProceed[1], &QPushButton::clicked, this,
+            [this] { Run([](shell::Session& s) { s.ShadesRestore(); }); });
+    castWidgets.push_back(cmdShadesProceed[1]);
+    auto* cancel = new QPushButton("Cancel", frame);
+    cancel->setGeometry(180, 262, 80, 26);
+    connect(cancel, &QPushButton::clicked, this,
+            [this] { Run([](shell::Session& s) { s.CancelFrame(); }); });
+}
+
+void FrmVexlo::SyncShades() {
+    const shell::Session::ShadesState& shades = m_session.Shades;
+    if (m_session.Form.VisibleFrame != shell::Frame::EffectsShades) return;
+    m_syncing = true;
+    lblShadesCaption->setText(QString::fromStdString(shades.Caption));
+    const bool preview = shades.Preview.has_value();
+    picEffectsSample[0]->SetSurface(preview ? &shades.Preview->Image : nullptr);
+    picEffectsSample[1]->SetSurface(preview ? &shades.Preview->Mask : nullptr);
+    ckbUseSelectedColor->setVisible(shades.UseSelectedColorVisible);
+    ckbUseSelectedColor->setChecked(shades.UseSelectedColorChecked);
+    for (QWidget* w : castWidgets) w->setVisible(shades.CastControlsVisible);
+    for (int i = 0; i < 3; ++i)
+        cboCast[static_cast<std::size_t>(i)]->setCurrentIndex(shades.Cast.Values[static_cast<std::size_t>(i)]);
+    hsrCast->setValue(shades.Cast.Slider);
+    m_syncing = false;
+}
+
+}  // namespace vexlo::gui
