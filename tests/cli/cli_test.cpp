@@ -125,7 +125,8 @@ TEST_F(CliTest, FilesWrittenByVexloDecodeTheSameInIcotool) {
     int n = 0;
     for (int side : {16, 32, 48}) {
         for (auto picture : pictures) {
-            const std::string stem = "p" + std::to_string(n++);
+            std::string stem = "p";
+            stem += std::to_string(n++);
             const std::string png = MakePng(stem + ".png", side, picture);
             ASSERT_EQ(Cli({"convert", png, Path(stem + ".ico")}).code, 0);
             ASSERT_EQ(Cli({"export", Path(stem + ".ico"), "0", Path(stem + "_ours.png")}).code, 0);
