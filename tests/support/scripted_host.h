@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -111,9 +112,31 @@ public:
         folderRequests.push_back({pattern, startFolder, extendable});
         return Next(m_folderAnswers, std::string(), "folder dialog: " + pattern);
     }
+    // The multi-icon dialog's next answer, and the requests it received.
+    void AnswerMultiIcon(shell::MultiIconAnswer answer) { m_multiAnswers.push_back(std::move(answer)); }
+    struct MultiIconRequest {
+        std::string fileSpec;
+        int addMode;
+        std::string addDescription;
+    };
+    std::vector<MultiIconRequest> multiIconRequests;
+    shell::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+                                         const surface::Surface*, const std::string& description) override {
+        multiIconRequests.push_back({fileSpec, addMode, description});
+        return Next(m_multiAnswers, shell::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
+    }
+    // Pictures the platform would load, by path; any other path fails to load.
+    std::map<std::string, surface::Surface> pictures;
+    bool LoadPicture(const std::string& path, surface::Surface& out) override {
+        const auto it = pictures.find(path);
+        if (it == pictures.end()) return false;
+        out = it->second;
+        return true;
+    }
+
     std::size_t PendingDialogAnswers() const {
         return m_openAnswers.size() + m_saveAnswers.size() + m_colorAnswers.size() +
-               m_printerAnswers.size() + m_folderAnswers.size();
+               m_printerAnswers.size() + m_folderAnswers.size() + m_multiAnswers.size();
     }
 
     // The answer of a box closed without a choice.
@@ -172,6 +195,7 @@ private:
     std::deque<std::int32_t> m_colorAnswers;
     std::deque<PrinterAnswer> m_printerAnswers;
     std::deque<std::string> m_folderAnswers;
+    std::deque<shell::MultiIconAnswer> m_multiAnswers;
 };
 
 }  // namespace vexlo::test

@@ -149,4 +149,10 @@ std::string SplitFileSpec(const std::string& fileSpec, int part) {
     return dot == std::string::npos ? std::string() : name.substr(dot + 1);
 }
 
+bool CopyFileAtomically(const std::string& source, const std::string& target) {
+    std::vector<std::uint8_t> data;
+    if (ReadWholeFile(source, data) != FileReadStatus::Ok) return false;
+    return AtomicWriteFile(target, Bytes(data.data(), data.size())).Ok;
+}
+
 }  // namespace vexlo::files

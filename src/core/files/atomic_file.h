@@ -32,6 +32,10 @@ FileWriteResult AtomicWriteFile(const std::string& path, Bytes data, const Atomi
 // True if path is a file that can be opened for reading (a folder is not).
 bool FileExists(const std::string& path);
 
+// Copies the file at source to target through AtomicWriteFile; false when source can't be
+// read or target can't be written.
+bool CopyFileAtomically(const std::string& source, const std::string& target);
+
 // True if path exists and is a folder, or a file that the user may not write or that has no
 // write permission bit at all (the platform's read-only attribute; this holds for root too).
 // A path where nothing stands is not protected.

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "core/alpha/alpha_array.h"
+#include "core/surface/surface.h"
 #include "core/utilities/dialog_requests.h"
 
 namespace vexlo::shell {
@@ -22,6 +24,15 @@ inline constexpr const char* kTitle = "Vexlo";
 // A line break inside a message text.
 inline constexpr const char* kCrLf = "\r\n";
 
+// The answer of frmVexloMultiIcon: in its Edit face the chosen image's planes and
+// "index/size/colors/bits", in its Add face "1" or "2"; an empty choice when cancelled.
+struct MultiIconAnswer {
+    std::string Choice;
+    surface::Surface Image;
+    surface::Surface Mask;
+    alpha::AlphaArray Alpha;
+};
+
 class Host {
 public:
     virtual ~Host() = default;
@@ -35,6 +46,17 @@ public:
     virtual void SetHourglass(bool on) = 0;
     // The Editing Area's picture changed: repaint it on the screen.
     virtual void RefreshDisplay() = 0;
+
+    // frmVexloMultiIcon over fileSpec: addMode 0 chooses an image, 1 asks where to add
+    // iconToAdd (described by addDescription).
+    virtual MultiIconAnswer ShowMultiIcon(const std::string& /*fileSpec*/, int /*addMode*/,
+                                          const surface::Surface* /*iconToAdd*/,
+                                          const std::string& /*addDescription*/) {
+        return {};
+    }
+    // Loads a picture file (BMP, GIF, JPEG, PNG, ...) into out at its own size; false when the
+    // platform can't read it.
+    virtual bool LoadPicture(const std::string& /*path*/, surface::Surface& /*out*/) { return false; }
 
     // Moves the pointer one pixel and back, so that its shape is brought up to date.
     virtual void NudgePointer() {}

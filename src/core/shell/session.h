@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "core/effects/shades.h"
+#include "core/files/ico_write.h"
 #include "core/shell/form_state.h"
 #include "core/shell/host.h"
 #include "core/shell/icon_slot.h"
@@ -216,6 +217,24 @@ public:
     void mnuFileSaveAsICO();
     void mnuFileSaveAsICOForce256();
     bool CopyIncomingAlphaToSlot();
+    // What a save of the current slot writes with: alpha and true color as the slot says.
+    files::IconWriteOptions WriteOptions() const;
+
+    // --- Multi-icon files, cursors, bitmaps -------------------------------------------------
+    // frmVexloMultiIcon chooses an image of path; openIt puts it in the Editing Area, else it
+    // goes to the panel only. False when cancelled or when the choice can't be used.
+    bool ChooseImageOfFile(const std::string& path, bool openIt);
+    void mnuFileSaveMultiIconReplace();
+    void mnuFileSaveMultiIconAddTo();
+    // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
+    std::string AddToFileDialog(const std::string& path, int c, int bits);
+    bool LoadCursorFile(const std::string& path);
+    void OpenCursorFile();
+    void mnuFileSaveAsCursor();
+    bool SaveCursorTo(const std::string& path);
+    void OpenBitmapFile();  // BmpToIcon
+    void mnuFileSaveAsBitmap();
+    bool SaveBitmapTo(const std::string& path);
 
     // --- Commands -------------------------------------------------------------------------
     // The facts that the enable rules of menus and toolbar read, as they stand now.
@@ -253,6 +272,7 @@ public:
 
 private:
     void RestoreUndoEntry(const Surface& entry);
+    void ShowSetMessage(const std::string& text, MsgIcon icon);
 
     Host& m_host;
     tools::UndoHistory m_undo;

@@ -33,7 +33,6 @@ bool Session::CopyIncomingAlphaToSlot() {
 }
 
 bool Session::LoadIconFile(const std::string& path, bool askForImage) {
-    (void)askForImage;  // the choice among several images comes with the multi-icon dialog
     const files::ProbeAnswer probe = files::ProbeIconFile(path, true);
     if (probe.Kind == 0) {
         m_host.MsgBox(files::InvalidIconFileMessage(path), MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
@@ -44,6 +43,7 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
         return false;
     }
     const bool multi = probe.Kind == 2;
+    if (probe.Usable > 1 && askForImage) return ChooseImageOfFile(path, true);
     const int w = probe.Width;
     const int sizeCode = SizeCodeOfSide(w);
     if (sizeCode == 0) {
@@ -171,7 +171,8 @@ bool Session::SaveDialogFlow(int kind) {
     bool saved = false;
     if (kind == 1) saved = SaveIconFile(path, false);
     if (kind == 2) saved = SaveIconFile(path, true);
-    // Cursors and bitmaps are saved by their own writers as they arrive.
+    if (kind == 3) saved = SaveCursorTo(path);
+    if (kind == 4) saved = SaveBitmapTo(path);
     if (saved) Current().Changed = false;
     return saved;
 }

@@ -111,8 +111,13 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
                 result = loaded ? CommandLineResult::Loaded : CommandLineResult::LoadFailed;
                 RefreshPaletteMenu();
                 if (keepWorkingDir) *keepWorkingDir = loaded;
-            } else if (ext == "CUR" || ext == "ANI") {
-                // Cursor and animated cursor files open through their readers as they arrive.
+            } else if (ext == "CUR") {
+                const bool loaded = LoadCursorFile(CurrentPath);
+                result = loaded ? CommandLineResult::Loaded : CommandLineResult::LoadFailed;
+                RefreshPaletteMenu();
+                if (keepWorkingDir) *keepWorkingDir = loaded;
+            } else if (ext == "ANI") {
+                // Animated cursor files open through their reader as it arrives.
                 result = CommandLineResult::LoadFailed;
             }
         } else {

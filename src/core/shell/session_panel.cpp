@@ -162,7 +162,9 @@ void Session::FileOpen(int entry) {
     }
     if (!GuardReplaceCurrent()) return;
     if (entry == 0) OpenIconFile();
-    // Folders, cursor files and pictures open through their own readers as they arrive.
+    if (entry == 2) OpenCursorFile();
+    if (entry == 3) OpenBitmapFile();
+    // Entry 1, all icons of a folder, opens the Icons List as it arrives.
 }
 
 }  // namespace vexlo::shell

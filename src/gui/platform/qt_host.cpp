@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QImageReader>
 #include <QMimeData>
 #include <QCoreApplication>
 #include <QCursor>
@@ -10,6 +11,7 @@
 #include <QGuiApplication>
 
 #include "gui/platform/dialog_handlers.h"
+#include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
@@ -41,6 +43,14 @@ void QtHost::NudgePointer() {
     const QPoint p = QCursor::pos();
     QCursor::setPos(p.x() > 0 ? p.x() - 1 : p.x() + 1, p.y() > 0 ? p.y() - 1 : p.y() + 1);
     QCursor::setPos(p);
+}
+
+bool QtHost::LoadPicture(const std::string& path, surface::Surface& out) {
+    QImageReader reader(QString::fromStdString(path));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    out = FromQImage(picture);
+    return true;
 }
 
 bool QtHost::ClipboardHasBitmap() {

@@ -33,6 +33,8 @@ public:
     // stands at 0) and back, so that the widget under it updates its pointer shape.
     void NudgePointer() override;
     bool ClipboardHasBitmap() override;
+    // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
+    bool LoadPicture(const std::string& path, surface::Surface& out) override;
 
     std::string ShowOpen(const utilities::OpenRequest& request) override;
     std::string ShowSave(const utilities::SaveRequest& request) override;

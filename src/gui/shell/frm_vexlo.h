@@ -98,6 +98,8 @@ public:
     QScrollBar* hsrCast = nullptr;
     std::array<QLabel*, 2> lblCast{};
     std::array<QPushButton*, 2> cmdShadesProceed{};
+    // Inside fraSaveAsCursor.
+    std::array<QComboBox*, 2> cboCursorHotSpot{};
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -116,6 +118,8 @@ private:
     void SyncColorsPanel();
     void BuildShadesFrame(QFrame* frame);
     void SyncShades();
+    void BuildSaveAsCursorFrame(QFrame* frame);
+    void SyncSaveAsCursor();
     void SyncPointer();
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);

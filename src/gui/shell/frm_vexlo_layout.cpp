@@ -95,7 +95,8 @@ void FrmVexlo::BuildLayout() {
         frame->setGeometry(kRightLeft, kFramesTop, kRightWidth, kFramesHeight);
         frame->setObjectName(QString("fra%1").arg(f));
         if (f != static_cast<int>(shell::Frame::ColorsPanel) &&
-            f != static_cast<int>(shell::Frame::EffectsShades)) {
+            f != static_cast<int>(shell::Frame::EffectsShades) &&
+            f != static_cast<int>(shell::Frame::SaveAsCursor)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
@@ -105,6 +106,7 @@ void FrmVexlo::BuildLayout() {
     Frames[shell::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
     BuildColorsPanel(Frames[shell::Frame::ColorsPanel]);
     BuildShadesFrame(Frames[shell::Frame::EffectsShades]);
+    BuildSaveAsCursorFrame(Frames[shell::Frame::SaveAsCursor]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -56,6 +56,7 @@ void FrmVexlo::SyncFromModel() {
     SyncToolbox();
     SyncColorsPanel();
     SyncShades();
+    SyncSaveAsCursor();
     SyncStatus();
 }
 
