@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "core/shell/session.h"
+#include "core/tools/spotlight.h"
 
 namespace vexlo::shell {
 
@@ -72,8 +73,11 @@ void Session::PlotShape(Tool t) {
         case Tool::FilledOval:
             PlotOval(t == Tool::FilledOval);
             break;
+        case Tool::Spotlight:
+            tools::PlotSpotlight(picImage, picMask, PicIcon, picTemp, picImageTemp, Draw, SelectedColor,
+                                 [this] { m_host.DoEvents(); });
+            break;
         default:
-            // The Spotlight plots with its own color ramp.
             break;
     }
     picImage.DrawWidth = notedWidth;

@@ -1,6 +1,8 @@
 // The pointer on the Editing Area: pressed, moved and released, and what each tool does in
 // each of them.
 #include "core/shell/session.h"
+#include "core/tools/fill.h"
+#include "core/tools/spotlight.h"
 
 namespace vexlo::shell {
 
@@ -70,7 +72,7 @@ void Session::PointerMoved(int x, int y, bool modifierDown) {
     Band.Bottom = Draw.SnapY;
     Draw.Shape.Right = Draw.CellX;
     Draw.Shape.Bottom = Draw.CellY;
-    // The Spotlight's size limit comes in with the Spotlight itself.
+    if (t == Tool::Spotlight) tools::SpotlightLimit(Band, Draw.Shape, MagnifyStep);
     if (modifierDown) {
         const int w = picImage.Width();
         const int h = picImage.Height();
@@ -91,7 +93,6 @@ void Session::PointerMoved(int x, int y, bool modifierDown) {
 }
 
 void Session::PointerReleased(int x, int y, bool shiftDown) {
-    (void)shiftDown;  // read by Fill and Replace Color
     Draw.PaintDragging = false;
     Draw.EraseDragging = false;
     Draw.RegionDragging = false;
@@ -109,6 +110,17 @@ void Session::PointerReleased(int x, int y, bool shiftDown) {
         Draw.CellY = y / MagnifyStep;
         const Tool t = Form.SelectedTool;
         if (t == Tool::Paint || t == Tool::Erase) {
+            TakeUndoSnapshot();
+        } else if (t == Tool::Fill || t == Tool::ReplaceColor) {
+            Draw.Shape.Left = Draw.CellX;
+            Draw.Shape.Top = Draw.CellY;
+            if (t == Tool::Fill)
+                tools::FillAt(picImage, picMask, PicIcon, Draw.CellX, Draw.CellY, SelectedColor, shiftDown);
+            else
+                tools::ReplaceColorAt(picImage, picMask, PicIcon, Draw.CellX, Draw.CellY, SelectedColor, shiftDown);
+            surface::MakeSameSize(PicIcon, picTemp);
+            ComposeIcon();
+            MagnifyIcon();
             TakeUndoSnapshot();
         } else if (tools::IsShapeTool(t)) {
             PlotShape(t);

@@ -176,4 +176,18 @@ bool BitBlt(Surface& dst, int dx, int dy, int w, int h, Rop rop);
 bool StretchBlt(Surface& dst, int dx, int dy, int dw, int dh, const Surface& src, int sx, int sy,
                 int sw, int sh, Rop rop, StretchMode mode = StretchMode::ColorOnColor);
 
+// ExtFloodFill's fill types (surface_flood.cpp).
+inline constexpr int kFloodFillBorder = 0;   // FLOODFILLBORDER: the area bounded by the color
+inline constexpr int kFloodFillSurface = 1;  // FLOODFILLSURFACE: the area of the color
+
+// The area that ExtFloodFill fills from (x, y), as one byte per pixel row by row (1 inside):
+// with kFloodFillSurface the pixels of exactly `color` that are 4-connected to the start, with
+// kFloodFillBorder those of any other color. Empty when the start pixel lies outside the
+// Surface or doesn't belong to such an area. Uses no recursion.
+std::vector<std::uint8_t> FloodFillArea(const Surface& s, int x, int y, Color color, int fillType);
+// ExtFloodFill: fills that area with the Surface's FillColor (the brush; FillStyle isn't
+// consulted). False, with nothing changed, when FloodFillArea is empty. A FillColor equal to
+// the area's color leaves the Surface as it was.
+bool ExtFloodFill(Surface& s, int x, int y, Color color, int fillType);
+
 }  // namespace vexlo::surface
