@@ -13,6 +13,7 @@
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
+#include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
 
@@ -51,6 +52,19 @@ bool QtHost::LoadPicture(const std::string& path, surface::Surface& out) {
     if (picture.isNull()) return false;
     out = FromQImage(picture);
     return true;
+}
+
+shell::MultiIconAnswer QtHost::ShowMultiIcon(const std::string& fileSpec, int addMode,
+                                             const surface::Surface* iconToAdd,
+                                             const std::string& addDescription) {
+    gui::MultiIconResult result = gui::frmVexloMultiIcon::Run(QApplication::activeWindow(), fileSpec,
+                                                             addMode, iconToAdd, addDescription);
+    shell::MultiIconAnswer answer;
+    answer.Choice = std::move(result.Choice);
+    answer.Image = std::move(result.Image);
+    answer.Mask = std::move(result.Mask);
+    answer.Alpha = std::move(result.Alpha);
+    return answer;
 }
 
 bool QtHost::ClipboardHasBitmap() {

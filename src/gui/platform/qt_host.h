@@ -35,6 +35,9 @@ public:
     bool ClipboardHasBitmap() override;
     // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
     bool LoadPicture(const std::string& path, surface::Surface& out) override;
+    shell::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+                                         const surface::Surface* iconToAdd,
+                                         const std::string& addDescription) override;
 
     std::string ShowOpen(const utilities::OpenRequest& request) override;
     std::string ShowSave(const utilities::SaveRequest& request) override;
