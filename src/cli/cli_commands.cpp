@@ -9,6 +9,10 @@
 #include "core/files/ico_probe.h"
 #include "core/files/ico_read.h"
 #include "core/files/ico_write.h"
+#include "core/files/cursor_file.h"
+#include "core/files/icon_set.h"
+#include "core/files/multi_icon_list.h"
+#include <filesystem>
 
 namespace vexlo::cli {
 
@@ -26,6 +30,8 @@ constexpr const char* kUsage =
     "  convert IN OUT.ico [--force256]\n"
     "                                 a 16x16, 32x32 or 48x48 PNG, BMP or ICO picture\n"
     "                                 saved as the editor saves it\n"
+    "  split FILE OUTDIR              every listed image of a multi-icon file as a\n"
+    "                                 single-icon file, bytes unchanged\n"
     "\n"
     "'vexlo-cli COMMAND --help' tells more of one command.\n";
 
@@ -39,12 +45,20 @@ constexpr const char* kProbeHelp =
 constexpr const char* kInfoHelp =
     "usage: vexlo-cli info FILE\n"
     "One line per directory entry: index, width x height, bits per pixel, colors (-1 for\n"
-    "true color), bytes in resource, offset, and 'ok' if the image decodes or 'bad'.\n";
+    "true color), bytes in resource, offset, and 'ok' if the image decodes or 'bad'.\n"
+    "For a cursor file the line ends with 'hotspot X,Y'.\n";
 
 constexpr const char* kExportHelp =
     "usage: vexlo-cli export FILE INDEX OUT.png\n"
     "Decodes image INDEX (from 0) as the editor does and writes an RGBA PNG: the color of\n"
-    "the image plane, alpha 0 where the mask is set, and for 32-bit images the file's alpha.\n";
+    "the image plane, alpha 0 where the mask is set, and for 32-bit images the file's alpha.\n"
+    "A cursor file has one image, INDEX 0.\n";
+
+constexpr const char* kSplitHelp =
+    "usage: vexlo-cli split FILE OUTDIR\n"
+    "Writes every 16x16, 32x32 or 48x48 image of FILE as a single-icon file in OUTDIR,\n"
+    "named as the editor's Split Save names them (stem_size_colors.ico, 'bpp' for true\n"
+    "color), with the image's bytes copied unchanged. Prints each file written.\n";
 
 constexpr const char* kConvertHelp =
     "usage: vexlo-cli convert IN OUT.ico [--force256]\n"
@@ -87,6 +101,19 @@ int Info(const std::vector<std::string>& a, std::ostream& out, std::ostream& err
     std::vector<std::uint8_t> data;
     if (!ReadFile(a[0], data, err)) return 1;
     const files::Bytes bytes(data.data(), data.size());
+    const files::CursorProbe cursor = files::ProbeCursorFile(bytes);
+    if (cursor.Valid) {
+        files::CursorImage image;
+        const bool decodes = files::ReadCursorFile(bytes, image);
+        files::IconFileHeader header;
+        std::vector<files::IconDirEntry> entries;
+        files::ReadIconDirectory(bytes, header, entries);
+        const files::IconDirEntry e = entries.empty() ? files::IconDirEntry{} : entries[0];
+        out << 0 << " " << int{e.Width} << "x" << int{e.Height} << " " << cursor.BitCount << " "
+            << cursor.Colors << " " << e.BytesInRes << " " << e.ImageOffset << " "
+            << (decodes ? "ok" : "bad") << " hotspot " << cursor.HotspotX << "," << cursor.HotspotY << "\n";
+        return 0;
+    }
     files::IconFileHeader header;
     std::vector<files::IconDirEntry> entries;
     if (!files::ReadIconDirectory(bytes, header, entries))
@@ -112,6 +139,18 @@ int Export(const std::vector<std::string>& a, std::ostream& err) {
     std::vector<std::uint8_t> data;
     if (!ReadFile(a[0], data, err)) return 1;
     const files::Bytes bytes(data.data(), data.size());
+    std::string error;
+    if (files::ProbeCursorFile(bytes).Valid) {
+        if (index != 0) return Fail(err, a[0] + " is a cursor of one image; no image " + a[1]);
+        files::CursorImage cursor;
+        if (!files::ReadCursorFile(bytes, cursor)) return Fail(err, a[0] + ": the cursor cannot be decoded");
+        IconPlanes icon;
+        icon.Image = surface::Surface(32, 32, 0);
+        icon.Mask = surface::Surface(32, 32, 0);
+        files::DrawCursorFrame(cursor, icon.Image, 0, 0, files::CursorDraw::Image);
+        files::DrawCursorFrame(cursor, icon.Mask, 0, 0, files::CursorDraw::Mask);
+        return WritePng(icon, a[2], error) ? 0 : Fail(err, error);
+    }
     files::IconFileHeader header;
     std::vector<files::IconDirEntry> entries;
     if (!files::ReadIconDirectory(bytes, header, entries))
@@ -122,7 +161,6 @@ int Export(const std::vector<std::string>& a, std::ostream& err) {
     if (!files::ReadIconFileToImage(bytes, index, icon.Image, icon.Mask, icon.Alpha))
         return Fail(err, a[0] + ": image " + a[1] + " cannot be decoded");
     icon.HasAlpha = entries[static_cast<std::size_t>(index)].BitCount == 32 && !icon.Alpha.IsSingle();
-    std::string error;
     return WritePng(icon, a[2], error) ? 0 : Fail(err, error);
 }
 
@@ -152,6 +190,24 @@ int Convert(const std::vector<std::string>& a, std::ostream& err) {
     return 0;
 }
 
+int Split(const std::vector<std::string>& a, std::ostream& out, std::ostream& err) {
+    if (a.size() != 2) return Fail(err, "split takes FILE OUTDIR (see 'vexlo-cli split --help')");
+    std::error_code ec;
+    if (!std::filesystem::is_directory(a[1], ec)) return Fail(err, a[1] + ": not a folder");
+    files::IconSet set;
+    if (files::ReadIconSet(a[0], set) < 1) return Fail(err, a[0] + ": not an icon file");
+    const files::MultiIconList list = files::BuildMultiIconList(set);
+    if (list.Empty()) return Fail(err, a[0] + ": no image of 16x16, 32x32 or 48x48");
+    const std::vector<std::string> paths = files::SplitSavePaths(files::SplitSaveStem(a[1], a[0]), list);
+    for (int i = 0; i < list.Count(); ++i) {
+        const std::string& path = paths[static_cast<std::size_t>(i)];
+        if (!files::WriteSingleIcon(set, list.Items[static_cast<std::size_t>(i)].Index, path))
+            return Fail(err, path + ": cannot write");
+        out << path << "\n";
+    }
+    return 0;
+}
+
 }  // namespace
 
 int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
@@ -170,7 +226,8 @@ int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         const char* help;
     };
     static const Entry kCommands[] = {{"probe", kProbeHelp}, {"info", kInfoHelp},
-                                      {"export", kExportHelp}, {"convert", kConvertHelp}};
+                                      {"export", kExportHelp}, {"convert", kConvertHelp},
+                                      {"split", kSplitHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -180,6 +237,7 @@ int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         if (command == "probe") return Probe(rest, out, err);
         if (command == "info") return Info(rest, out, err);
         if (command == "export") return Export(rest, err);
+        if (command == "split") return Split(rest, out, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");

@@ -9,6 +9,8 @@
 #include <sstream>
 
 #include "cli/cli_commands.h"
+#include "core/files/cursor_file.h"
+#include "core/files/icon_set.h"
 
 namespace vexlo::test {
 namespace {
@@ -111,6 +113,36 @@ TEST_F(CliTest, ExportGivesColorsAndTransparency) {
     EXPECT_EQ(out.pixel(2, 2), qRgba(10, 20, 30, 255));
     EXPECT_EQ(qAlpha(out.pixel(12, 2)), 0);
     EXPECT_EQ(out.pixel(12, 12), qRgba(0, 90, 0, 255));
+}
+
+TEST_F(CliTest, SplitWritesEachListedImageWithItsBytesUnchanged) {
+    const Result r = Cli({"split", Fixture("icotool_multi.ico"), dir.string()});
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.out, Path("icotool_multi_16_16.ico") + "\n" + Path("icotool_multi_32_16.ico") + "\n" +
+                         Path("icotool_multi_32_256.ico") + "\n");
+    files::IconSet source, single;
+    ASSERT_EQ(files::ReadIconSet(Fixture("icotool_multi.ico"), source), 3);
+    ASSERT_EQ(files::ReadIconSet(Path("icotool_multi_32_256.ico"), single), 1);
+    EXPECT_EQ(single.Images[0].Bytes, source.Images[2].Bytes);
+    EXPECT_EQ(single.Images[0].Entry.ImageOffset, 22u);
+    EXPECT_EQ(fs::file_size(Path("icotool_multi_32_256.ico")), 22u + source.Images[2].Entry.BytesInRes);
+}
+
+TEST_F(CliTest, CursorsShowTheirHotspotAndExport) {
+    surface::Surface image(32, 32, 0), mask(32, 32, 0);
+    image.Fill(0x0000FF);
+    mask.Fill(0);
+    mask.SetPixelV(0, 0, 0xFFFFFF);
+    image.SetPixelV(0, 0, 0);
+    ASSERT_TRUE(files::WriteCursorFile(image, mask, Path("c.cur"), 7, 9));
+    const Result info = Cli({"info", Path("c.cur")});
+    ASSERT_EQ(info.code, 0);
+    EXPECT_EQ(info.out.substr(info.out.size() - 13), " hotspot 7,9\n");
+    ASSERT_EQ(Cli({"export", Path("c.cur"), "0", Path("c.png")}).code, 0);
+    const QImage png(QString::fromStdString(Path("c.png")));
+    EXPECT_EQ(png.pixel(5, 5), qRgba(255, 0, 0, 255));
+    EXPECT_EQ(qAlpha(png.pixel(0, 0)), 0);
+    EXPECT_EQ(Cli({"export", Path("c.cur"), "1", Path("c.png")}).code, 1);
 }
 
 // icotool decodes what Vexlo writes to the same pixels at every depth and size.
