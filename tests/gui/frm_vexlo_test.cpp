@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
@@ -170,6 +172,26 @@ TEST_F(FrmVexloTest, AToolNeedsAnIcon) {
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, "No icon in Editing Area yet");
     EXPECT_FALSE(window->ToolButtons[5]->isChecked());
+}
+
+TEST_F(FrmVexloTest, ABitmapSavedAndImportedAgainKeepsItsTransparentPixels) {
+    Open();
+    window->Item("mnuFileNew(1)")->trigger();
+    shell::Session& s = window->session();
+    s.picImage.SetPixelV(2, 2, 0x0000FF);
+    s.picMask.SetPixelV(2, 2, 0);
+    s.ComposeIcon();
+    const std::string path = (QDir::tempPath() + "/vexlo_bitmap_round_trip.bmp").toStdString();
+    host.AnswerSave(path);
+    window->Item("mnuFileSaveAsBitmap")->trigger();
+    host.AnswerOpen(path);
+    host.Answer(MsgAnswer::Ok);  // the reminder about transparent areas
+    window->Item("mnuFileOpen(3)")->trigger();
+    EXPECT_EQ(s.Current().KindText, "BMP or other file");
+    EXPECT_EQ(s.picImage.GetPixel(2, 2), 0x0000FFu);
+    EXPECT_EQ(s.picMask.GetPixel(2, 2), 0u);
+    EXPECT_EQ(s.picMask.GetPixel(5, 5), 0xFFFFFFu);  // gray in the bitmap: transparent again
+    QFile::remove(QString::fromStdString(path));
 }
 
 }  // namespace
