@@ -33,7 +33,10 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
     ckbUseSelectedColor = new QCheckBox(QString::fromUtf8(effects::kUseSelectedColorCaption.data(),
                                                           static_cast<int>(effects::kUseSelectedColorCaption.size())),
                                         frame);
-    ckbUseSelectedColor->setGeometry(8, 150, 260, 20);
+    ckbUseSelectedColor->setGeometry(8, 150, 262, 20);
+    QFont small = ckbUseSelectedColor->font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    ckbUseSelectedColor->setFont(small);  // the whole caption fits the frame's width
     connect(ckbUseSelectedColor, &QCheckBox::clicked, this, [this](bool checked) {
         Run([checked](shell::Session& s) { s.ClickUseSelectedColor(checked); });
     });
