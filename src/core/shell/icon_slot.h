@@ -53,6 +53,14 @@ struct IconSlot {
     bool Changed = false;
 
     void SetKindText(const std::string& text) { KindText = text.substr(0, kKindTextWidth); }
+    // No hotspot, saved as it stands: what every load and save leaves in the record.
+    void ClearFileState() {
+        HasHotspot = false;
+        HotspotX = 0;
+        HotspotY = 0;
+        NeverSaved = false;
+        Changed = false;
+    }
 };
 
 using alpha::AlphaArray;

@@ -272,6 +272,9 @@ public:
 
 private:
     void RestoreUndoEntry(const Surface& entry);
+    // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
+    // entry now last is shown.
+    void StepHistory(bool (tools::UndoHistory::*move)(), std::size_t have, std::size_t needed);
     void ShowSetMessage(const std::string& text, MsgIcon icon);
 
     Host& m_host;

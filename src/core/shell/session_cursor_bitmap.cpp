@@ -130,11 +130,7 @@ void Session::OpenBitmapFile() {
     s.HasAlpha = false;
     s.FileSpec = "BmpToIcon";
     s.MultiIconFile = false;
-    s.HasHotspot = false;
-    s.HotspotX = 0;
-    s.HotspotY = 0;
-    s.NeverSaved = false;
-    s.Changed = false;
+    s.ClearFileState();
     EnsureAlphaArray();
     picTemp.Clear();
     StoreToPanel();

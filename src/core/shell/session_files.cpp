@@ -84,11 +84,7 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     s.HasAlpha = bits == 32;
     s.InEditingArea = true;
     s.FileSpec = path;
-    s.HasHotspot = false;
-    s.HotspotX = 0;
-    s.HotspotY = 0;
-    s.NeverSaved = false;
-    s.Changed = false;
+    s.ClearFileState();
     if (EnsureAlphaArray() && s.HasAlpha && !CopyIncomingAlphaToSlot()) {
         m_host.MsgBox(files::AlphaCopyFailedMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
         s.HasAlpha = false;
@@ -130,11 +126,7 @@ bool Session::SaveIconFile(const std::string& path, bool force256) {
     if (count != -1) s.ColorCount = count;
     s.MultiIconFile = false;
     s.MultiIconIndex = 0;
-    s.HasHotspot = false;
-    s.HotspotX = 0;
-    s.HotspotY = 0;
-    s.NeverSaved = false;
-    s.Changed = false;
+    s.ClearFileState();
     StoreToPanel();
     RefreshStatusPanel();
     return true;

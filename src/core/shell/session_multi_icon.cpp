@@ -77,11 +77,7 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     s.FileSpec = path;
     s.MultiIconFile = true;
     s.MultiIconIndex = static_cast<std::int16_t>(index);
-    s.HasHotspot = false;
-    s.HotspotX = 0;
-    s.HotspotY = 0;
-    s.NeverSaved = false;
-    s.Changed = false;
+    s.ClearFileState();
     if (EnsureAlphaArray() && s.HasAlpha) CopyIncomingAlphaToSlot();
     if (openIt) {
         s.InEditingArea = true;

@@ -124,11 +124,7 @@ void Session::FileNew(int entry) {
     s.HasAlpha = false;
     s.FileSpec = kUntitled;
     s.MultiIconFile = false;
-    s.HasHotspot = false;
-    s.HotspotX = 0;
-    s.HotspotY = 0;
-    s.NeverSaved = false;
-    s.Changed = false;
+    s.ClearFileState();
     EnsureAlphaArray();
 
     const int sizeCode = kSizeOfEntry[entry];

@@ -42,31 +42,19 @@ bool Session::NeedsIconInArea() {
     return false;
 }
 
-void Session::UndoStep() {
-    if (!NeedsIconInArea() || m_undo.UndoCount() < 2) return;
+void Session::StepHistory(bool (tools::UndoHistory::*move)(), std::size_t have, std::size_t needed) {
+    if (!NeedsIconInArea() || have < needed) return;
     if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     ResetDrawState();
-    m_undo.StepBack();
+    (m_undo.*move)();
     RestoreUndoEntry(m_undo.Last());
     MagnifyIcon();
 }
 
-void Session::UndoAll() {
-    if (!NeedsIconInArea() || m_undo.UndoCount() < 3) return;
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    ResetDrawState();
-    m_undo.BackToFirst();
-    RestoreUndoEntry(m_undo.Last());
-    MagnifyIcon();
-}
+void Session::UndoStep() { StepHistory(&tools::UndoHistory::StepBack, m_undo.UndoCount(), 2); }
 
-void Session::RedoStep() {
-    if (!NeedsIconInArea() || m_undo.RedoCount() < 1) return;
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    ResetDrawState();
-    m_undo.StepForward();
-    RestoreUndoEntry(m_undo.Last());
-    MagnifyIcon();
-}
+void Session::UndoAll() { StepHistory(&tools::UndoHistory::BackToFirst, m_undo.UndoCount(), 3); }
+
+void Session::RedoStep() { StepHistory(&tools::UndoHistory::StepForward, m_undo.RedoCount(), 1); }
 
 }  // namespace vexlo::shell
