@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
+#include "core/files/byte_reader.h"
 #include "core/files/icon_set.h"
 #include "core/files/ico_read.h"
 #include "core/files/ico_write.h"
@@ -134,6 +136,35 @@ TEST_F(MultiIconFlowTest, AddingA16ColorIconOnceAndRefusingItTheSecondTime) {
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, files::DuplicateAddMessage(16, 16, 16, 4));
     EXPECT_EQ(files::ReadIconSet(Path("target.ico"), added), 2);
+}
+
+TEST_F(MultiIconFlowTest, HostileTargetsAreRefusedAndLeftAsTheyWere) {
+    // A count far past the file, an image offset past the end, two images on one place.
+    std::vector<std::uint8_t> good;
+    ASSERT_EQ(files::ReadWholeFile(Path("multi.ico"), good), files::FileReadStatus::Ok);
+    std::vector<std::vector<std::uint8_t>> hostile(3, good);
+    hostile[0][4] = 0xFF, hostile[0][5] = 0xFF;                  // idCount 65535
+    hostile[1][6 + 12] = 0xFF, hostile[1][6 + 13] = 0xFF;        // dwImageOffset of image 0
+    std::copy(good.begin() + 6 + 16 + 12, good.begin() + 6 + 16 + 16, hostile[2].begin() + 6 + 12);
+    s.FileNew(1);
+    s.picImage.Fill(0x000080);
+    s.picMask.Fill(0);
+    s.ComposeIcon();
+    for (std::size_t i = 0; i < hostile.size(); ++i) {
+        SCOPED_TRACE(i);
+        const std::string path = Path("hostile.ico");
+        { std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(hostile[i].data()),
+                                                      static_cast<std::streamsize>(hostile[i].size())); }
+        host.AnswerOpen(path);
+        host.Answer(MsgAnswer::Ok);
+        host.shown.clear();
+        s.RunMenuItem("mnuFileSaveMultiIconAddTo");
+        ASSERT_EQ(host.shown.size(), 1u);
+        EXPECT_EQ(host.shown[0].text, files::FailedToOpenMessage(path));
+        std::vector<std::uint8_t> after;
+        ASSERT_EQ(files::ReadWholeFile(path, after), files::FileReadStatus::Ok);
+        EXPECT_EQ(after, hostile[i]);
+    }
 }
 
 }  // namespace
