@@ -47,10 +47,7 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
         b->setAutoRaise(true);
         b->setToolTip(tooltip);
         b->setFocusPolicy(Qt::NoFocus);
-        connect(b, &QToolButton::clicked, this, [this, onClick] {
-            Run(onClick);
-            SyncFromModel();
-        });
+        connect(b, &QToolButton::clicked, this, [this, onClick] { Run(onClick); });
         layout->addWidget(b);
         return b;
     };
