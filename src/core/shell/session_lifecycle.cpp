@@ -117,7 +117,7 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
                 RefreshPaletteMenu();
                 if (keepWorkingDir) *keepWorkingDir = loaded;
             } else if (ext == "ANI") {
-                // Animated cursor files open through their reader as it arrives.
+                // Animated cursor files need the ANI reader, which this program lacks yet.
                 result = CommandLineResult::LoadFailed;
             }
         } else {

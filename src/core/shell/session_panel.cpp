@@ -160,7 +160,7 @@ void Session::FileOpen(int entry) {
     if (entry == 0) OpenIconFile();
     if (entry == 2) OpenCursorFile();
     if (entry == 3) OpenBitmapFile();
-    // Entry 1, all icons of a folder, opens the Icons List as it arrives.
+    // Entry 1, all icons of a folder, belongs to the Icons List, which this window lacks yet.
 }
 
 }  // namespace vexlo::shell
