@@ -109,11 +109,8 @@ void Session::OpenIconFile() {
 
 bool Session::SaveIconFile(const std::string& path, bool force256) {
     IconSlot& s = Current();
-    files::IconWriteOptions options;
-    options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
+    files::IconWriteOptions options = WriteOptions();
     options.Force256 = force256;
-    options.KeepTrueColor = s.ColorCount == -1 && s.HasAlpha;
-    options.AlphaValues = &SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
     if (!files::WriteIconFile(picImage, picMask, path, options)) {
         const bool protectedFile = files::IsProtectedFile(path);
         m_host.MsgBox(files::SaveFailedMessage(path), MsgButtons::Ok,
