@@ -107,6 +107,15 @@ void Session::OpenIconFile() {
     }
 }
 
+files::IconWriteOptions Session::WriteOptions() const {
+    const IconSlot& s = Current();
+    files::IconWriteOptions options;
+    options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
+    options.KeepTrueColor = s.ColorCount == -1 && s.HasAlpha;
+    options.AlphaValues = &SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
+    return options;
+}
+
 bool Session::SaveIconFile(const std::string& path, bool force256) {
     IconSlot& s = Current();
     files::IconWriteOptions options = WriteOptions();

@@ -33,15 +33,6 @@ int NumberOf(const std::string& s) {
 
 }  // namespace
 
-files::IconWriteOptions Session::WriteOptions() const {
-    const IconSlot& s = Current();
-    files::IconWriteOptions options;
-    options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
-    options.KeepTrueColor = s.ColorCount == -1 && s.HasAlpha;
-    options.AlphaValues = &SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
-    return options;
-}
-
 void Session::ShowSetMessage(const std::string& text, MsgIcon icon) {
     m_host.MsgBox(text, MsgButtons::Ok, icon, kTitle);
 }
