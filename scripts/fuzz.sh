@@ -18,13 +18,8 @@ if ! ls /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-x86_64.a >/dev/
    ! ls /usr/lib/llvm-*/lib/clang/*/lib/*/libclang_rt.fuzzer.a >/dev/null 2>&1; then
   need+=(libclang-rt-14-dev)
 fi
-if [ ${#need[@]} -gt 0 ]; then
-  echo "Installing: ${need[*]}"
-  sudo_cmd=()
-  if [ "$(id -u)" -ne 0 ]; then sudo_cmd=(sudo); fi
-  "${sudo_cmd[@]}" apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive "${sudo_cmd[@]}" apt-get install -y -qq "${need[@]}"
-fi
+source "$(dirname "${BASH_SOURCE[0]}")/apt-install.sh"
+apt_install "${need[@]}"
 
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DVEXLO_CORE_ONLY=ON -DVEXLO_TESTS=OFF -DVEXLO_BENCH=OFF -DVEXLO_SANITIZE=ON -DVEXLO_FUZZ=ON
