@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "cli/cli_commands.h"
+#include "support/test_folder.h"
 #include "core/files/cursor_file.h"
 #include "core/files/icon_set.h"
 
@@ -32,14 +33,7 @@ std::string Fixture(const char* name) { return std::string(VEXLO_FIXTURES_DIR) +
 
 class CliTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        dir = fs::temp_directory_path() /
-              ("vexlo_cli_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(dir);
-        fs::create_directories(dir);
-    }
-    void TearDown() override { fs::remove_all(dir); }
-    std::string Path(const std::string& name) const { return (dir / name).string(); }
+    std::string Path(const std::string& name) const { return folder.Path(name); }
     // A picture of side s whose pixel (x, y) is f(x, y) as ARGB.
     template <typename F>
     std::string MakePng(const std::string& name, int side, F f) {
@@ -49,7 +43,8 @@ protected:
         image.save(QString::fromStdString(Path(name)));
         return Path(name);
     }
-    fs::path dir;
+    TestFolder folder{"vexlo_cli"};
+    const fs::path& dir = folder.Dir();
 };
 
 TEST_F(CliTest, ProbeAndInfoOfAMultiIconFile) {

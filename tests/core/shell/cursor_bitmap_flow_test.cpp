@@ -8,6 +8,7 @@
 #include "core/files/cursor_file.h"
 #include "core/shell/session.h"
 #include "support/scripted_host.h"
+#include "support/test_folder.h"
 
 namespace vexlo::test {
 namespace {
@@ -20,15 +21,10 @@ using surface::Surface;
 class CursorBitmapFlowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir = fs::temp_directory_path() /
-              ("vexlo_curbmp_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(dir);
-        fs::create_directories(dir);
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
     }
-    void TearDown() override { fs::remove_all(dir); }
-    std::string Path(const char* name) const { return (dir / name).string(); }
+    std::string Path(const std::string& name) const { return folder.Path(name); }
     // A 32x32 cursor file of the given colors in stripes, with one transparent corner.
     std::string MakeCursor(const char* name, std::vector<Color> colors, int hx, int hy) {
         Surface image(32, 32, 0), mask(32, 32, 0);
@@ -41,7 +37,8 @@ protected:
         EXPECT_TRUE(files::WriteCursorFile(image, mask, Path(name), hx, hy));
         return Path(name);
     }
-    fs::path dir;
+    TestFolder folder{"vexlo_curbmp"};
+    const fs::path& dir = folder.Dir();
     ScriptedHost host;
     shell::Session s{host};
 };

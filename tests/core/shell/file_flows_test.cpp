@@ -10,6 +10,7 @@
 #include "core/files/ico_messages.h"
 #include "core/shell/session.h"
 #include "support/scripted_host.h"
+#include "support/test_folder.h"
 
 namespace vexlo::test {
 namespace {
@@ -21,19 +22,10 @@ using surface::Color;
 class FileFlowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir = fs::temp_directory_path() / ("vexlo_flows_" + std::to_string(::getpid()) + "_" +
-                                           ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(dir);
-        fs::create_directories(dir);
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
     }
-    void TearDown() override {
-        std::error_code ec;
-        fs::permissions(dir, fs::perms::owner_all, ec);
-        fs::remove_all(dir, ec);
-    }
-    std::string Path(const char* name) const { return (dir / name).string(); }
+    std::string Path(const std::string& name) const { return folder.Path(name); }
     void Paint(int x, int y, Color c) {
         s.picImage.SetPixelV(x, y, c);
         s.picMask.SetPixelV(x, y, 0);
@@ -45,7 +37,8 @@ protected:
         return {std::istreambuf_iterator<char>(in), {}};
     }
 
-    fs::path dir;
+    TestFolder folder{"vexlo_flows"};
+    const fs::path& dir = folder.Dir();
     ScriptedHost host;
     shell::Session s{host};
 };
@@ -93,12 +86,12 @@ TEST_F(FileFlowTest, SaveOfAnIcoFileNeedsNoDialog) {
 TEST_F(FileFlowTest, AProtectedTargetIsRefusedAndKeptAsItWas) {
     s.FileNew(0);
     // A folder is protected for everyone; a read-only file only for a user who isn't root.
-    const std::string folder = Path("folder.ico");
-    fs::create_directories(folder);
+    const std::string folderTarget = Path("folder.ico");
+    fs::create_directories(folderTarget);
     const std::string readOnly = Path("ro.ico");
     { std::ofstream(readOnly) << "old contents"; }
     fs::permissions(readOnly, fs::perms::owner_read);
-    std::vector<std::string> targets = {folder};
+    std::vector<std::string> targets = {folderTarget};
     if (::access(readOnly.c_str(), W_OK) != 0) targets.push_back(readOnly);
     for (const std::string& target : targets) {
         SCOPED_TRACE(target);
@@ -111,7 +104,7 @@ TEST_F(FileFlowTest, AProtectedTargetIsRefusedAndKeptAsItWas) {
         EXPECT_EQ(host.shown[0].icon, shell::MsgIcon::Exclamation);
         EXPECT_EQ(s.Current().FileSpec, "Untitled");
     }
-    EXPECT_TRUE(fs::is_directory(folder));
+    EXPECT_TRUE(fs::is_directory(folderTarget));
     EXPECT_EQ(ReadBytes(readOnly), "old contents");
 }
 

@@ -10,6 +10,7 @@
 #include "core/files/ico_write.h"
 #include "core/shell/session.h"
 #include "support/scripted_host.h"
+#include "support/test_folder.h"
 
 namespace vexlo::test {
 namespace {
@@ -33,10 +34,6 @@ files::IconImage ImageOf(int side, Color color) {
 class MultiIconFlowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir = fs::temp_directory_path() /
-              ("vexlo_multi_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        fs::remove_all(dir);
-        fs::create_directories(dir);
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
         s.Dirs.TempDir = dir.string() + "/";
@@ -45,8 +42,7 @@ protected:
         set.Images = {ImageOf(16, 0x000080), ImageOf(32, 0x123456), ImageOf(16, 0x654321)};
         ASSERT_TRUE(files::WriteIconSet(Path("multi.ico"), set));
     }
-    void TearDown() override { fs::remove_all(dir); }
-    std::string Path(const char* name) const { return (dir / name).string(); }
+    std::string Path(const std::string& name) const { return folder.Path(name); }
     // The dialog's answer for image index of the set at path.
     shell::MultiIconAnswer Choice(int index, const char* text) {
         shell::MultiIconAnswer a;
@@ -54,7 +50,8 @@ protected:
         EXPECT_TRUE(files::ReadIconFileToImage(Path("multi.ico"), index, a.Image, a.Mask, a.Alpha));
         return a;
     }
-    fs::path dir;
+    TestFolder folder{"vexlo_multi"};
+    const fs::path& dir = folder.Dir();
     ScriptedHost host;
     shell::Session s{host};
 };
