@@ -702,18 +702,26 @@ _DIGITS = {
 }
 
 
-def write_sheet(path, images, scale=8, per_row=7):
+def _toolbar_label(name):
+    tag = os.path.basename(name)
+    return tag[3:5] if tag.startswith('tb_') else 'S'
+
+
+def write_sheet(path, images, label_of, glyphs=None, scale=8, per_row=7):
     """Contact sheet: every picture at `scale`x on a light and a dark tile,
-    plus a strip at 1x and 2x on a toolbar-like background."""
+    plus strips at 1x and 2x on light and dark backgrounds. label_of(name) gives
+    each picture's short label."""
     pad = 12
     label_h = 5 * 3 + 6
     cell_w = 16 * scale * 2 + pad * 3
     cell_h = 16 * scale + pad * 2 + label_h
     rows = (len(images) + per_row - 1) // per_row
-    strip_h = 16 * 2 + 16 + pad * 3
-    width = cell_w * per_row
+    strip_h = (16 + 32 + pad * 3) * 2
+    width = max(cell_w * per_row, pad + len(images) * 40 + pad)
     height = cell_h * rows + strip_h
     bg = (150, 150, 160)
+    light = (236, 236, 236)
+    dark = (48, 48, 56)
     canvas = [[bg] * width for _ in range(height)]
 
     def blend(dst, src):
@@ -731,7 +739,7 @@ def write_sheet(path, images, scale=8, per_row=7):
 
     def label(text, ox, oy):
         for i, ch in enumerate(text):
-            pat = _DIGITS[ch]
+            pat = (glyphs or _DIGITS)[ch]
             for y in range(5):
                 for x in range(3):
                     if pat[y][x] == '1':
@@ -742,20 +750,21 @@ def write_sheet(path, images, scale=8, per_row=7):
     for i, (name, img) in enumerate(images):
         cx = (i % per_row) * cell_w
         cy = (i // per_row) * cell_h
-        tag = os.path.basename(name)
-        text = tag[3:5] if tag.startswith('tb_') else 'S'
-        label(text, cx + pad, cy + 4)
-        put(img, cx + pad, cy + label_h, scale, (236, 236, 236))
-        put(img, cx + pad * 2 + 16 * scale, cy + label_h, scale, (48, 48, 56))
+        label(label_of(name), cx + pad, cy + 4)
+        put(img, cx + pad, cy + label_h, scale, light)
+        put(img, cx + pad * 2 + 16 * scale, cy + label_h, scale, dark)
 
-    # actual-size strips
-    sy = cell_h * rows + pad
-    for y in range(sy - pad // 2, height):
-        for x in range(width):
-            canvas[y][x] = (236, 236, 236)
-    for i, (name, img) in enumerate(images):
-        put(img, pad + i * 22, sy, 1, (236, 236, 236))
-        put(img, pad + i * 40, sy + 16 + pad, 2, (236, 236, 236))
+    # actual-size strips: 1x and 2x, first on light then on dark
+    sy = cell_h * rows
+    half = strip_h // 2
+    for k, back in enumerate((light, dark)):
+        top = sy + k * half
+        for y in range(top, top + half):
+            for x in range(width):
+                canvas[y][x] = back
+        for i, (name, img) in enumerate(images):
+            put(img, pad + i * 22, top + pad, 1, back)
+            put(img, pad + i * 40, top + pad * 2 + 16, 2, back)
 
     write_png(path, width, height, [[c + (255,) for c in row] for row in canvas])
 
@@ -775,7 +784,7 @@ def main(argv=None):
         images.append((name, img))
     print('wrote %d pictures under %s' % (len(images), os.path.normpath(args.out)))
     if args.sheet:
-        write_sheet(args.sheet, images)
+        write_sheet(args.sheet, images, _toolbar_label)
         print('wrote contact sheet %s' % args.sheet)
     return 0
 

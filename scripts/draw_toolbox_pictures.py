@@ -25,7 +25,7 @@ import sys
 
 sys.dont_write_bytecode = True  # leave no __pycache__ beside the scripts
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from draw_toolbar_pictures import _DIGITS, render, write_png  # noqa: E402
+from draw_toolbar_pictures import _DIGITS, render, write_png, write_sheet  # noqa: E402
 
 # --------------------------------------------------------------------------
 # Extra colours (added to the shared palette per picture)
@@ -375,67 +375,6 @@ def _label(name):
     return 'C'
 
 
-def write_sheet(path, images, scale=8, per_row=5):
-    """Contact sheet: every picture at `scale`x on a light and a dark tile,
-    plus strips at 1x and 2x on light and dark toolbox-like backgrounds."""
-    pad = 12
-    label_h = 5 * 3 + 6
-    cell_w = 16 * scale * 2 + pad * 3
-    cell_h = 16 * scale + pad * 2 + label_h
-    rows = (len(images) + per_row - 1) // per_row
-    strip_h = (16 + 32 + pad * 3) * 2
-    width = max(cell_w * per_row, pad + len(images) * 40 + pad)
-    height = cell_h * rows + strip_h
-    bg = (150, 150, 160)
-    light = (236, 236, 236)
-    dark = (48, 48, 56)
-    canvas = [[bg] * width for _ in range(height)]
-
-    def blend(dst, src):
-        a = src[3] / 255.0
-        return tuple(int(round(d * (1 - a) + s * a)) for d, s in zip(dst, src[:3]))
-
-    def put(img, ox, oy, s, back):
-        for y in range(16):
-            for x in range(16):
-                c = blend(back, img[y][x])
-                for dy in range(s):
-                    line = canvas[oy + y * s + dy]
-                    for dx in range(s):
-                        line[ox + x * s + dx] = c
-
-    def label(text, ox, oy):
-        for i, ch in enumerate(text):
-            pat = _GLYPHS[ch]
-            for y in range(5):
-                for x in range(3):
-                    if pat[y][x] == '1':
-                        for dy in range(3):
-                            for dx in range(3):
-                                canvas[oy + y * 3 + dy][ox + (i * 4 + x) * 3 + dx] = (0, 0, 0)
-
-    for i, (name, img) in enumerate(images):
-        cx = (i % per_row) * cell_w
-        cy = (i // per_row) * cell_h
-        label(_label(name), cx + pad, cy + 4)
-        put(img, cx + pad, cy + label_h, scale, light)
-        put(img, cx + pad * 2 + 16 * scale, cy + label_h, scale, dark)
-
-    # actual-size strips: 1x and 2x, first on light then on dark
-    sy = cell_h * rows
-    half = strip_h // 2
-    for k, back in enumerate((light, dark)):
-        top = sy + k * half
-        for y in range(top, top + half):
-            for x in range(width):
-                canvas[y][x] = back
-        for i, (name, img) in enumerate(images):
-            put(img, pad + i * 22, top + pad, 1, back)
-            put(img, pad + i * 40, top + pad * 2 + 16, 2, back)
-
-    write_png(path, width, height, [[c + (255,) for c in row] for row in canvas])
-
-
 def main(argv=None):
     ap = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     here = os.path.dirname(os.path.abspath(__file__))
@@ -451,7 +390,7 @@ def main(argv=None):
         images.append((name, img))
     print('wrote %d pictures under %s' % (len(images), os.path.normpath(args.out)))
     if args.sheet:
-        write_sheet(args.sheet, images)
+        write_sheet(args.sheet, images, _label, glyphs=_GLYPHS, per_row=5)
         print('wrote contact sheet %s' % args.sheet)
     return 0
 
