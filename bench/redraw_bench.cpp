@@ -2,12 +2,12 @@
 // planes, then magnify it with the grid. This times that step at each icon size and grid mode.
 #include <benchmark/benchmark.h>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 
 namespace {
 
-using vexlo::shell::NullHost;
-using vexlo::shell::Session;
+using vexlo::session::NullHost;
+using vexlo::session::Session;
 
 void BM_PlottedPointRedraw(benchmark::State& state) {
     NullHost host;

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QStringList>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "gui/platform/message_box.h"
 #include "gui/platform/single_instance.h"
 #include "gui/platform/system_info.h"
@@ -12,9 +12,9 @@
 
 namespace {
 
-using vexlo::shell::kTitle;
-using vexlo::shell::MsgButtons;
-using vexlo::shell::MsgIcon;
+using vexlo::session::kTitle;
+using vexlo::session::MsgButtons;
+using vexlo::session::MsgIcon;
 
 void Refuse(const std::string& text, MsgIcon icon) {
     vexlo::platform::ShowMessageBox(text, MsgButtons::Ok, icon, kTitle);
@@ -33,7 +33,7 @@ int main(int argc, char* argv[]) {
 
     vexlo::platform::SingleInstance instance;
     if (!instance.TryAcquire()) {
-        Refuse(vexlo::shell::SecondInstanceText(), MsgIcon::Exclamation);
+        Refuse(vexlo::session::SecondInstanceText(), MsgIcon::Exclamation);
         return 0;
     }
     if (vexlo::platform::WindowsDirectory().empty()) {

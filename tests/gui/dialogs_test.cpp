@@ -23,7 +23,7 @@
 #include <functional>
 #include <vector>
 
-#include "gui/platform/qt_host.h"
+#include "gui/shell/window_host.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
 #include "scripted_dialogs.h"
@@ -31,7 +31,7 @@
 namespace vexlo::gui {
 namespace {
 
-using shell::MsgAnswer;
+using session::MsgAnswer;
 
 // Runs each step on the next modal widget that comes to the top, polling with fresh
 // single-shot timers so that a step may open a nested box. A modal widget left open three
@@ -133,7 +133,7 @@ TEST(DirDialog, OkAsksOnlyWhenThePatternFindsNoFile) {
             EXPECT_EQ(host.shown[0].text, "There is no " + ext +
                                               " files directly in selected folder.\r\n"
                                               "Proceed still?");
-            EXPECT_EQ(host.shown[0].buttons, shell::MsgButtons::YesNo);
+            EXPECT_EQ(host.shown[0].buttons, session::MsgButtons::YesNo);
             EXPECT_EQ(host.shown[0].title, "Vexlo");
         }
     }
@@ -229,7 +229,7 @@ TEST(DirDialog, NarrowAndWideLayouts) {
 TEST(DirDialog, GetFolderSpecStartsThereAndAnswersTheFolderOrNothing) {
     CurrentDirGuard cwd;
     IconFolder icons;
-    platform::QtHost host;
+    gui::WindowHost host;
     for (const bool ok : {true, false}) {
         QDir::setCurrent(QDir::rootPath());
         ModalScript script({[&](QWidget* w) {

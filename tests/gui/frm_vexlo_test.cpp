@@ -11,13 +11,13 @@
 #include <QTest>
 
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
 namespace {
 
-using shell::MsgAnswer;
+using session::MsgAnswer;
 
 class FrmVexloTest : public ::testing::Test {
 protected:
@@ -37,7 +37,7 @@ protected:
 TEST_F(FrmVexloTest, NewIcon48ShowsItsGridSizeAndName) {
     Open();
     window->Item("mnuFileNew(2)")->trigger();
-    const shell::Session& s = window->session();
+    const session::Session& s = window->session();
     EXPECT_EQ(s.MagnifyStep, 8);
     EXPECT_EQ(window->lblStatusPanel[0]->text(), "Untitled");
     EXPECT_EQ(window->lblStatusPanel[2]->text(), "48 x 48");
@@ -52,7 +52,7 @@ TEST_F(FrmVexloTest, PanelClickMovesTheHighlightAndOpensTheSlot) {
     Open();
     window->Item("mnuFileNew(1)")->trigger();  // 16x16 in slot 0
     QTest::mouseClick(window->picPanelIcon[2], Qt::LeftButton);
-    const shell::Session& s = window->session();
+    const session::Session& s = window->session();
     EXPECT_EQ(s.CurrentSlot, 2);
     EXPECT_EQ(window->lblPanelIcon[2]->palette().color(QPalette::Window), QColor(Qt::white));
     EXPECT_EQ(window->lblPanelIcon[0]->palette().color(QPalette::Window), QColor(0xE0, 0xE0, 0xE0));
@@ -155,7 +155,7 @@ TEST_F(FrmVexloTest, PaintingACellWithThePointerEnablesUndo) {
     const QPoint cell(5 * 12 + 2, 7 * 12 + 2);
     QTest::mousePress(window->picDisp, Qt::LeftButton, {}, cell);
     QTest::mouseRelease(window->picDisp, Qt::LeftButton, {}, cell);
-    const shell::Session& s = window->session();
+    const session::Session& s = window->session();
     EXPECT_EQ(s.picImage.GetPixel(5, 7), 0xFFFFFFu);
     EXPECT_EQ(s.picMask.GetPixel(5, 7), 0u);
     EXPECT_TRUE(s.Current().Changed);
@@ -177,7 +177,7 @@ TEST_F(FrmVexloTest, AToolNeedsAnIcon) {
 TEST_F(FrmVexloTest, ABitmapSavedAndImportedAgainKeepsItsTransparentPixels) {
     Open();
     window->Item("mnuFileNew(1)")->trigger();
-    shell::Session& s = window->session();
+    session::Session& s = window->session();
     s.picImage.SetPixelV(2, 2, 0x0000FF);
     s.picMask.SetPixelV(2, 2, 0);
     s.ComposeIcon();

@@ -17,14 +17,14 @@
 #include "core/files/ico_write.h"
 #include "core/files/icon_set.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
 namespace {
 
 using gui::frmVexloMultiIcon;
-using shell::MsgAnswer;
+using session::MsgAnswer;
 using surface::Color;
 using surface::Surface;
 using ByteVec = std::vector<std::uint8_t>;
@@ -158,7 +158,7 @@ TEST_F(MultiIconDialog, RemoveAsksRewritesTheFileAndSelectsTheNeighbour) {
         dlg->ClickRemove();
         ASSERT_EQ(host.shown.size(), 1u);
         EXPECT_EQ(host.shown[0].text, files::RemoveQuestion(path));
-        EXPECT_EQ(host.shown[0].icon, shell::MsgIcon::Question);
+        EXPECT_EQ(host.shown[0].icon, session::MsgIcon::Question);
         host.shown.clear();
         QStringList refs;
         for (const QString& line : Lines(*dlg)) refs << line.left(5);

@@ -16,27 +16,27 @@
 
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
-#include "gui/platform/qt_host.h"
+#include "gui/shell/window_host.h"
 #include "gui/platform/single_instance.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::platform {
 namespace {
 
-using shell::MsgAnswer;
-using shell::MsgButtons;
-using shell::MsgIcon;
+using session::MsgAnswer;
+using session::MsgButtons;
+using session::MsgIcon;
 
 TEST(MessageBox, HandlerReplacesTheBoxAndGetsTheExactText) {
     test::ScriptedHost outer;
     test::ScriptedHost inner;
-    QtHost host;
+    gui::WindowHost host;
     test::ScopedScriptedMessageBoxes outerScope(outer);
     {
         test::ScopedScriptedMessageBoxes innerScope(inner);
         inner.Answer(MsgAnswer::No);
         EXPECT_EQ(host.MsgBox("Save changes?\r\nÄnderungen", MsgButtons::YesNoCancel,
-                              MsgIcon::Exclamation, shell::kTitle),
+                              MsgIcon::Exclamation, session::kTitle),
                   MsgAnswer::No);
     }
     // The inner scope put the outer handler back.
@@ -116,10 +116,10 @@ INSTANTIATE_TEST_SUITE_P(
                       RealBoxCase{MsgButtons::YesNoCancel, Act::ClickNo, MsgAnswer::No}),
     RealBoxCaseName);
 
-TEST(QtHost, NestedHourglassLeavesNoOverrideCursor) {
+TEST(WindowHost, NestedHourglassLeavesNoOverrideCursor) {
     ASSERT_EQ(QGuiApplication::overrideCursor(), nullptr);
     {
-        QtHost host;
+        gui::WindowHost host;
         host.SetHourglass(true);
         host.SetHourglass(true);
         host.SetHourglass(false);

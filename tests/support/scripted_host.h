@@ -14,16 +14,16 @@
 #include <utility>
 #include <vector>
 
-#include "core/shell/host.h"
+#include "core/session/host.h"
 
 namespace vexlo::test {
 
-class ScriptedHost : public shell::Host {
+class ScriptedHost : public session::Host {
 public:
     struct Shown {
         std::string text;
-        shell::MsgButtons buttons;
-        shell::MsgIcon icon;
+        session::MsgButtons buttons;
+        session::MsgIcon icon;
         std::string title;
     };
 
@@ -48,17 +48,17 @@ public:
     }
 
     // Queues the answer to the next message box.
-    void Answer(shell::MsgAnswer answer) { m_answers.push_back(answer); }
+    void Answer(session::MsgAnswer answer) { m_answers.push_back(answer); }
     std::size_t PendingAnswers() const { return m_answers.size(); }
 
-    shell::MsgAnswer MsgBox(const std::string& text, shell::MsgButtons buttons,
-                            shell::MsgIcon icon, const std::string& title) override {
+    session::MsgAnswer MsgBox(const std::string& text, session::MsgButtons buttons,
+                            session::MsgIcon icon, const std::string& title) override {
         shown.push_back({text, buttons, icon, title});
         if (m_answers.empty()) {
             ADD_FAILURE() << "Unexpected message box: " << text;
             return ClosedAnswer(buttons);
         }
-        const shell::MsgAnswer answer = m_answers.front();
+        const session::MsgAnswer answer = m_answers.front();
         m_answers.pop_front();
         if (!HasButton(buttons, answer)) {
             ADD_FAILURE() << "Scripted answer has no button in the box: " << text;
@@ -113,17 +113,17 @@ public:
         return Next(m_folderAnswers, std::string(), "folder dialog: " + pattern);
     }
     // The multi-icon dialog's next answer, and the requests it received.
-    void AnswerMultiIcon(shell::MultiIconAnswer answer) { m_multiAnswers.push_back(std::move(answer)); }
+    void AnswerMultiIcon(session::MultiIconAnswer answer) { m_multiAnswers.push_back(std::move(answer)); }
     struct MultiIconRequest {
         std::string fileSpec;
         int addMode;
         std::string addDescription;
     };
     std::vector<MultiIconRequest> multiIconRequests;
-    shell::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+    session::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
                                          const surface::Surface*, const std::string& description) override {
         multiIconRequests.push_back({fileSpec, addMode, description});
-        return Next(m_multiAnswers, shell::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
+        return Next(m_multiAnswers, session::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
     }
     // Pictures the platform would load, by path; any other path fails to load.
     std::map<std::string, surface::Surface> pictures;
@@ -140,23 +140,23 @@ public:
     }
 
     // The answer of a box closed without a choice.
-    static shell::MsgAnswer ClosedAnswer(shell::MsgButtons buttons) {
+    static session::MsgAnswer ClosedAnswer(session::MsgButtons buttons) {
         switch (buttons) {
-            case shell::MsgButtons::Ok: return shell::MsgAnswer::Ok;
-            case shell::MsgButtons::OkCancel: return shell::MsgAnswer::Cancel;
-            case shell::MsgButtons::YesNoCancel: return shell::MsgAnswer::Cancel;
-            case shell::MsgButtons::YesNo: return shell::MsgAnswer::No;
+            case session::MsgButtons::Ok: return session::MsgAnswer::Ok;
+            case session::MsgButtons::OkCancel: return session::MsgAnswer::Cancel;
+            case session::MsgButtons::YesNoCancel: return session::MsgAnswer::Cancel;
+            case session::MsgButtons::YesNo: return session::MsgAnswer::No;
         }
-        return shell::MsgAnswer::Ok;
+        return session::MsgAnswer::Ok;
     }
-    static bool HasButton(shell::MsgButtons buttons, shell::MsgAnswer answer) {
-        using shell::MsgAnswer;
+    static bool HasButton(session::MsgButtons buttons, session::MsgAnswer answer) {
+        using session::MsgAnswer;
         switch (buttons) {
-            case shell::MsgButtons::Ok: return answer == MsgAnswer::Ok;
-            case shell::MsgButtons::OkCancel:
+            case session::MsgButtons::Ok: return answer == MsgAnswer::Ok;
+            case session::MsgButtons::OkCancel:
                 return answer == MsgAnswer::Ok || answer == MsgAnswer::Cancel;
-            case shell::MsgButtons::YesNoCancel: return answer != MsgAnswer::Ok;
-            case shell::MsgButtons::YesNo:
+            case session::MsgButtons::YesNoCancel: return answer != MsgAnswer::Ok;
+            case session::MsgButtons::YesNo:
                 return answer == MsgAnswer::Yes || answer == MsgAnswer::No;
         }
         return false;
@@ -189,13 +189,13 @@ private:
         return answer;
     }
 
-    std::deque<shell::MsgAnswer> m_answers;
+    std::deque<session::MsgAnswer> m_answers;
     std::deque<std::string> m_openAnswers;
     std::deque<std::string> m_saveAnswers;
     std::deque<std::int32_t> m_colorAnswers;
     std::deque<PrinterAnswer> m_printerAnswers;
     std::deque<std::string> m_folderAnswers;
-    std::deque<shell::MultiIconAnswer> m_multiAnswers;
+    std::deque<session::MultiIconAnswer> m_multiAnswers;
 };
 
 }  // namespace vexlo::test

@@ -7,7 +7,7 @@
 #include <QToolTip>
 
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
@@ -32,14 +32,14 @@ QToolButton* MakeSmallButton(QWidget* parent, const QString& text, const char* t
 }  // namespace
 
 void FrmVexlo::BuildColorsPanel(QFrame* panel) {
-    shell::Session& s = m_session;
+    session::Session& s = m_session;
     fraofColorPanel[0] = MakeGroup(panel, "Brush", QRect(6, 20, 80, 54));
     cboBrushSize = new QComboBox(fraofColorPanel[0]);
     for (int i = 1; i <= 6; ++i) cboBrushSize->addItem(QString::number(i));
     cboBrushSize->setGeometry(10, 22, 60, 24);
     connect(cboBrushSize, &QComboBox::activated, this, [this](int index) {
         if (m_session.FormLoading) return;
-        Run([index](shell::Session& session) { session.ClickBrushSize(index); });
+        Run([index](session::Session& session) { session.ClickBrushSize(index); });
     });
 
     fraofColorPanel[1] = MakeGroup(panel, "Color", QRect(92, 20, 176, 54));
@@ -52,7 +52,7 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
             [this] { m_session.DoubleClickColorToUse(); });
     connect(picColorToUse, &SurfaceView::Released, this,
             [this](Qt::MouseButton, Qt::KeyboardModifiers, int, int) {
-                Run([](shell::Session& session) { session.ReleaseOnColorToUse(); });
+                Run([](session::Session& session) { session.ReleaseOnColorToUse(); });
             });
     auto* fixedPicture = new SurfaceView(&s.picColorChart[2], fraofColorPanel[1]);
     fixedPicture->setGeometry(132, 16, 32, 32);
@@ -63,18 +63,18 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
     chart48->setGeometry(3, 20, 256, 48);
     connect(chart48, &SurfaceView::Released, this,
             [this](Qt::MouseButton, Qt::KeyboardModifiers, int x, int y) {
-                Run([x, y](shell::Session& session) { session.ReleaseOnColorChart(0, x, y); });
+                Run([x, y](session::Session& session) { session.ReleaseOnColorChart(0, x, y); });
             });
     auto* pop = MakeSmallButton(fraofColorPanel[2], "...", "Color chart dialog",
                                 QRect(6, 70, 40, 22));
     pop->setObjectName("imgPopColorChart");
     connect(pop, &QToolButton::clicked, this,
-            [this] { Run([](shell::Session& session) { session.PopColorChart(); }); });
+            [this] { Run([](session::Session& session) { session.PopColorChart(); }); });
     auto* to16 = MakeSmallButton(fraofColorPanel[2], "16", "Change to 16-color chart",
                                  QRect(216, 70, 40, 22));
     to16->setObjectName("imgGet16ColorChart");
     connect(to16, &QToolButton::clicked, this,
-            [this] { Run([](shell::Session& session) { session.SwitchTo16ColorChart(); }); });
+            [this] { Run([](session::Session& session) { session.SwitchTo16ColorChart(); }); });
 
     fraofColorPanel[3] = MakeGroup(panel, "16-Color Palette", QRect(6, 80, 262, 96));
     auto* chart16 = new SurfaceView(&s.picColorChart[1], fraofColorPanel[3]);
@@ -82,7 +82,7 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
     chart16->setGeometry(51, 20, 160, 40);
     connect(chart16, &SurfaceView::Released, this,
             [this](Qt::MouseButton, Qt::KeyboardModifiers, int x, int y) {
-                Run([x, y](shell::Session& session) { session.ReleaseOnColorChart(1, x, y); });
+                Run([x, y](session::Session& session) { session.ReleaseOnColorChart(1, x, y); });
             });
     connect(chart16, &SurfaceView::Moved, this,
             [this, chart16](Qt::MouseButtons, Qt::KeyboardModifiers, int x, int y) {
@@ -92,14 +92,14 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
                                   QRect(216, 70, 40, 22));
     to256->setObjectName("imgGet256ColorChart");
     connect(to256, &QToolButton::clicked, this,
-            [this] { Run([](shell::Session& session) { session.SwitchTo256ColorChart(); }); });
+            [this] { Run([](session::Session& session) { session.SwitchTo256ColorChart(); }); });
 
     fraColorMixer = MakeGroup(panel, "Color Mixer", QRect(6, 182, 262, 118));
     fraColorMixer->setObjectName("fraColorMixer");
 }
 
 void FrmVexlo::SyncColorsPanel() {
-    const shell::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form;
     QPalette pal = picColorToUse->palette();
     const surface::Color c = m_session.SelectedColor;
     pal.setColor(QPalette::Window, QColor(surface::RedOf(c), surface::GreenOf(c), surface::BlueOf(c)));

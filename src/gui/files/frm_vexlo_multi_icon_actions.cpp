@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "core/files/ico_read.h"
-#include "core/shell/host.h"
+#include "core/session/host.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/platform/message_box.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
@@ -16,16 +16,16 @@ namespace vexlo::gui {
 
 namespace {
 
-using shell::MsgAnswer;
-using shell::MsgButtons;
-using shell::MsgIcon;
+using session::MsgAnswer;
+using session::MsgButtons;
+using session::MsgIcon;
 
 void Tell(const std::string& text) {
-    platform::ShowMessageBox(text, MsgButtons::Ok, MsgIcon::None, shell::kTitle);
+    platform::ShowMessageBox(text, MsgButtons::Ok, MsgIcon::None, session::kTitle);
 }
 
 bool Confirm(const std::string& question) {
-    return platform::ShowMessageBox(question, MsgButtons::YesNo, MsgIcon::Question, shell::kTitle) ==
+    return platform::ShowMessageBox(question, MsgButtons::YesNo, MsgIcon::Question, session::kTitle) ==
            MsgAnswer::Yes;
 }
 

@@ -25,7 +25,7 @@ void FrmVexlo::BuildSaveAsCursorFrame(QFrame* frame) {
         for (int v = 0; v <= 31; ++v) list->addItem(QString::number(v));
         list->setGeometry(28 + i * 100, 74, 60, 22);
         connect(list, &QComboBox::activated, this, [this, i](int index) {
-            Run([i, index](shell::Session& s) { s.Form.CursorHotSpot[static_cast<std::size_t>(i)] = index; });
+            Run([i, index](session::Session& s) { s.Form.CursorHotSpot[static_cast<std::size_t>(i)] = index; });
         });
         cboCursorHotSpot[static_cast<std::size_t>(i)] = list;
     }
@@ -33,11 +33,11 @@ void FrmVexlo::BuildSaveAsCursorFrame(QFrame* frame) {
     proceed->setObjectName("cmdSaveAsCursorProceed");
     proceed->setGeometry(8, 262, 80, 26);
     connect(proceed, &QPushButton::clicked, this,
-            [this] { Run([](shell::Session& s) { s.SaveDialogFlow(3); }); });
+            [this] { Run([](session::Session& s) { s.SaveDialogFlow(3); }); });
     auto* cancel = new QPushButton("Cancel", frame);
     cancel->setGeometry(180, 262, 80, 26);
     connect(cancel, &QPushButton::clicked, this,
-            [this] { Run([](shell::Session& s) { s.CancelFrame(); }); });
+            [this] { Run([](session::Session& s) { s.CancelFrame(); }); });
 }
 
 void FrmVexlo::SyncSaveAsCursor() {

@@ -9,9 +9,9 @@ namespace vexlo::platform {
 
 namespace {
 
-using shell::MsgAnswer;
-using shell::MsgButtons;
-using shell::MsgIcon;
+using session::MsgAnswer;
+using session::MsgButtons;
+using session::MsgIcon;
 
 MessageBoxHandler& Handler() {
     static MessageBoxHandler handler;

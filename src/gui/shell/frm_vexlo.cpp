@@ -7,7 +7,7 @@
 #include <QTimer>
 
 #include "gui/platform/system_info.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 #include "gui/utilities/frm_vexlo_about.h"
 
 // Resources compiled into the static library must be registered by name before use.
@@ -41,8 +41,8 @@ bool FrmVexlo::LoadForm() {
     m_session.Dirs.ProgramDir = platform::ProgramDirectory();
     if (!go) return false;
     // No position is stored yet: the window is placed by the screen's size alone.
-    const shell::WindowPos pos =
-        shell::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight, nullptr);
+    const session::WindowPos pos =
+        session::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight, nullptr);
     setFixedSize(kFormWidth, kFormHeight);
     move(pos.Left, pos.Top);
     m_session.Dirs.LastFolder = m_session.Dirs.ProgramDir;

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/session.h"
-#include "gui/platform/qt_host.h"
+#include "core/session/session.h"
+#include "gui/shell/window_host.h"
 
 class QAction;
 class QCheckBox;
@@ -36,7 +36,7 @@ public:
     explicit FrmVexlo(std::string commandLine, QWidget* parent = nullptr);
     ~FrmVexlo() override;
 
-    shell::Session& session() { return m_session; }
+    session::Session& session() { return m_session; }
 
     // The load: false when the user declined to go on with too small a screen; the first
     // activation then closes the window.
@@ -61,8 +61,8 @@ public:
     SurfaceView* picMask = nullptr;  // the mask plane's real-size view
     QLabel* lblIcon = nullptr;
     QLabel* lblMask = nullptr;
-    std::array<SurfaceView*, shell::kSlotCount> picPanelIcon{};
-    std::array<QLabel*, shell::kSlotCount> lblPanelIcon{};
+    std::array<SurfaceView*, session::kSlotCount> picPanelIcon{};
+    std::array<QLabel*, session::kSlotCount> lblPanelIcon{};
     std::array<QLabel*, 4> lblStatusPanel{};
     QLabel* imgAlphaOnStatusPanel = nullptr;
     QFrame* picProgressContainer = nullptr;
@@ -72,13 +72,13 @@ public:
     QLabel* lblMix = nullptr;
     QLabel* lblRegionMeasure = nullptr;
     QLabel* lblForExtendedFrame = nullptr;
-    std::map<shell::Frame, QFrame*> Frames;
+    std::map<session::Frame, QFrame*> Frames;
 
     // Every menu item by its name ("mnuFileNew(2)", "mnuFileExit", ...).
     std::map<std::string, QAction*, std::less<>> MenuItems;
     QAction* Item(std::string_view name) const;
     // cmdTB(0..25); elements 26 to 30 are the separators between them.
-    std::array<QToolButton*, shell::kToolbarCommands> cmdTB{};
+    std::array<QToolButton*, session::kToolbarCommands> cmdTB{};
     // The Toolbox: imgPaint .. imgShift in the order of mnuTools, then the Color Picker and
     // Clear all tools.
     std::array<QToolButton*, tools::kToolCount> ToolButtons{};
@@ -124,12 +124,12 @@ private:
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);
     // The enable rules of one top menu, run as it drops down.
-    void ApplyMenuRules(const shell::TopMenu& menu);
+    void ApplyMenuRules(const session::TopMenu& menu);
     void LayOutIconAndMask();
     void ShowAbout();
 
-    platform::QtHost m_host;
-    shell::Session m_session;
+    WindowHost m_host;
+    session::Session m_session;
     std::string m_commandLine;
     bool m_activationScheduled = false;
     bool m_activating = false;

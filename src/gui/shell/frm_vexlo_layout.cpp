@@ -7,7 +7,7 @@
 #include <QStatusBar>
 
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
@@ -88,25 +88,25 @@ void FrmVexlo::BuildLayout() {
     picMask->setObjectName("picMask");
     LayOutIconAndMask();
 
-    for (int f = static_cast<int>(shell::Frame::ColorsPanel);
-         f <= static_cast<int>(shell::Frame::ConfineToMono); ++f) {
+    for (int f = static_cast<int>(session::Frame::ColorsPanel);
+         f <= static_cast<int>(session::Frame::ConfineToMono); ++f) {
         auto* frame = new QFrame(m_form);
         frame->setFrameShape(QFrame::StyledPanel);
         frame->setGeometry(kRightLeft, kFramesTop, kRightWidth, kFramesHeight);
         frame->setObjectName(QString("fra%1").arg(f));
-        if (f != static_cast<int>(shell::Frame::ColorsPanel) &&
-            f != static_cast<int>(shell::Frame::EffectsShades) &&
-            f != static_cast<int>(shell::Frame::SaveAsCursor)) {
+        if (f != static_cast<int>(session::Frame::ColorsPanel) &&
+            f != static_cast<int>(session::Frame::EffectsShades) &&
+            f != static_cast<int>(session::Frame::SaveAsCursor)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
         frame->hide();
-        Frames[static_cast<shell::Frame>(f)] = frame;
+        Frames[static_cast<session::Frame>(f)] = frame;
     }
-    Frames[shell::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
-    BuildColorsPanel(Frames[shell::Frame::ColorsPanel]);
-    BuildShadesFrame(Frames[shell::Frame::EffectsShades]);
-    BuildSaveAsCursorFrame(Frames[shell::Frame::SaveAsCursor]);
+    Frames[session::Frame::ColorsPanel]->setObjectName("fraColorsPanel");
+    BuildColorsPanel(Frames[session::Frame::ColorsPanel]);
+    BuildShadesFrame(Frames[session::Frame::EffectsShades]);
+    BuildSaveAsCursorFrame(Frames[session::Frame::SaveAsCursor]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");
@@ -124,7 +124,7 @@ void FrmVexlo::BuildLayout() {
 }
 
 void FrmVexlo::BuildPanel(QWidget* parent) {
-    for (int i = 0; i < shell::kSlotCount; ++i) {
+    for (int i = 0; i < session::kSlotCount; ++i) {
         const int top = kDispTop + i * kPanelRow;
         auto* label = MakeLabel(parent, QString::number(i + 1), QRect(kPanelLeft, top, 70, 12));
         label->setAlignment(Qt::AlignCenter);
@@ -143,7 +143,7 @@ void FrmVexlo::BuildPanel(QWidget* parent) {
         connect(view, &SurfaceView::Released, this,
                 [this, i](Qt::MouseButton button, Qt::KeyboardModifiers, int, int) {
                     if (button == Qt::RightButton &&
-                        m_session.Form.VisibleFrame == shell::Frame::IconsList)
+                        m_session.Form.VisibleFrame == session::Frame::IconsList)
                         Run([i](auto& s) { s.DoubleClickPanel(i); });
                 });
     }
@@ -200,7 +200,7 @@ bool FrmVexlo::eventFilter(QObject* watched, QEvent* event) {
         SyncStatus();
         return false;
     }
-    for (int i = 0; i < shell::kSlotCount; ++i) {
+    for (int i = 0; i < session::kSlotCount; ++i) {
         if (watched != lblPanelIcon[static_cast<std::size_t>(i)]) continue;
         if (event->type() == QEvent::MouseButtonRelease)
             Run([i](auto& s) { s.ClickPanel(i); });

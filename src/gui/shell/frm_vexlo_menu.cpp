@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "core/shell/menu_tree.h"
+#include "core/session/menu_tree.h"
 #include "gui/shell/frm_vexlo.h"
 
 namespace vexlo::gui {
@@ -14,10 +14,10 @@ QAction* FrmVexlo::Item(std::string_view name) const {
 }
 
 void FrmVexlo::BuildMenus() {
-    for (const shell::TopMenu& top : shell::MenuTree()) {
+    for (const session::TopMenu& top : session::MenuTree()) {
         QMenu* menu = menuBar()->addMenu(QString::fromUtf8(top.Caption.data(), static_cast<int>(top.Caption.size())));
         menu->setObjectName(QString::fromUtf8(top.Name.data(), static_cast<int>(top.Name.size())));
-        for (const shell::MenuItem& item : top.Items) {
+        for (const session::MenuItem& item : top.Items) {
             QAction* action = nullptr;
             if (item.Caption == "-") {
                 action = menu->addSeparator();
@@ -44,13 +44,13 @@ void FrmVexlo::BuildMenus() {
     }
 }
 
-void FrmVexlo::ApplyMenuRules(const shell::TopMenu& menu) {
-    const shell::RuleContext context = m_session.Rules();
-    for (const shell::MenuItem& item : menu.Items) {
-        if (item.Name.empty() || item.Rule == shell::EnableRule::Always ||
-            item.Rule == shell::EnableRule::FileHistory)
+void FrmVexlo::ApplyMenuRules(const session::TopMenu& menu) {
+    const session::RuleContext context = m_session.Rules();
+    for (const session::MenuItem& item : menu.Items) {
+        if (item.Name.empty() || item.Rule == session::EnableRule::Always ||
+            item.Rule == session::EnableRule::FileHistory)
             continue;
-        if (QAction* action = Item(item.Name)) action->setEnabled(shell::RuleHolds(item.Rule, context));
+        if (QAction* action = Item(item.Name)) action->setEnabled(session::RuleHolds(item.Rule, context));
     }
 }
 
@@ -63,7 +63,7 @@ void FrmVexlo::RunItem(std::string_view name) {
         ShowAbout();
         return;
     }
-    Run([name](shell::Session& s) { s.RunMenuItem(name); });
+    Run([name](session::Session& s) { s.RunMenuItem(name); });
     if (name == "mnuOptionsDisplayMask") LayOutIconAndMask();
 }
 

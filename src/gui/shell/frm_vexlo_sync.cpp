@@ -5,7 +5,7 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
@@ -23,13 +23,13 @@ void SetText(QLabel* label, const std::string& text) {
 }  // namespace
 
 void FrmVexlo::SyncFromModel() {
-    const shell::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form;
     picDisp->update();
     // The real-size views show the icon only while one is in the Editing Area.
     const bool inArea = m_session.InArea();
     picIcon->SetSurface(inArea ? &m_session.PicIcon : nullptr);
     picMask->SetSurface(inArea ? &m_session.picMask : nullptr);
-    for (int i = 0; i < shell::kSlotCount; ++i) {
+    for (int i = 0; i < session::kSlotCount; ++i) {
         const auto k = static_cast<std::size_t>(i);
         picPanelIcon[k]->update();
         QPalette pal = lblPanelIcon[k]->palette();
@@ -48,8 +48,8 @@ void FrmVexlo::SyncFromModel() {
     Item("mnuPaletteSub(1)")->setChecked(form.PaletteMode == 1);
     for (int i = 0; i < 6; ++i)
         Item("mnuBrushSize(" + std::to_string(i) + ")")->setChecked(form.BrushSizeIndex == i);
-    for (int k = 0; k < shell::kToolbarCommands; ++k)
-        if (!shell::ToolbarButtonFixed(k))
+    for (int k = 0; k < session::kToolbarCommands; ++k)
+        if (!session::ToolbarButtonFixed(k))
             cmdTB[static_cast<std::size_t>(k)]->setEnabled(
                 form.ToolbarEnabled[static_cast<std::size_t>(k)]);
     if (picMask->isVisibleTo(this) != form.DisplayMaskChecked) LayOutIconAndMask();
@@ -61,7 +61,7 @@ void FrmVexlo::SyncFromModel() {
 }
 
 void FrmVexlo::SyncStatus() {
-    const shell::StatusBar& status = m_session.Form.Status;
+    const session::StatusBar& status = m_session.Form.Status;
     for (std::size_t i = 0; i < 4; ++i) SetText(lblStatusPanel[i], status.Panel[i]);
     imgAlphaOnStatusPanel->setVisible(status.AlphaImageVisible);
 

@@ -4,9 +4,9 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
-#include "core/shell/menu_tree.h"
+#include "core/session/menu_tree.h"
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
@@ -28,9 +28,9 @@ void FrmVexlo::BuildToolbar(QWidget* row) {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(4, 2, 4, 2);
     layout->setSpacing(1);
-    const auto& buttons = shell::ToolbarButtons();
-    for (int k = 0; k < shell::kToolbarCommands; ++k) {
-        const shell::ToolbarButton& b = buttons[static_cast<std::size_t>(k)];
+    const auto& buttons = session::ToolbarButtons();
+    for (int k = 0; k < session::kToolbarCommands; ++k) {
+        const session::ToolbarButton& b = buttons[static_cast<std::size_t>(k)];
         auto* button = new QToolButton(row);
         button->setObjectName(QString("cmdTB%1").arg(k));
         button->setIcon(ButtonPicture(k));
@@ -41,7 +41,7 @@ void FrmVexlo::BuildToolbar(QWidget* row) {
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &QToolButton::clicked, this, [this, k] {
             picDisp->setFocus();
-            RunItem(shell::ToolbarButtons()[static_cast<std::size_t>(k)].Runs);
+            RunItem(session::ToolbarButtons()[static_cast<std::size_t>(k)].Runs);
         });
         layout->addWidget(button);
         cmdTB[static_cast<std::size_t>(k)] = button;

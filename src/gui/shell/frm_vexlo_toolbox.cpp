@@ -5,7 +5,7 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
-#include "gui/shell/surface_view.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
@@ -25,10 +25,10 @@ bool ModifierDown(Qt::KeyboardModifiers m) {
     return m & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
 }
 
-shell::Session::Button ButtonOf(Qt::MouseButton b) {
-    if (b == Qt::LeftButton) return shell::Session::Button::Left;
-    if (b == Qt::RightButton) return shell::Session::Button::Right;
-    return shell::Session::Button::Middle;
+session::Session::Button ButtonOf(Qt::MouseButton b) {
+    if (b == Qt::LeftButton) return session::Session::Button::Left;
+    if (b == Qt::RightButton) return session::Session::Button::Right;
+    return session::Session::Button::Middle;
 }
 
 }  // namespace
@@ -54,18 +54,18 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
     for (int i = 0; i < tools::kToolCount; ++i) {
         const auto tool = static_cast<Tool>(i);
         ToolButtons[static_cast<std::size_t>(i)] =
-            addButton(ToolKey(i), tools::ToolTooltip(tool), [tool](shell::Session& s) { s.ClickTool(tool); });
+            addButton(ToolKey(i), tools::ToolTooltip(tool), [tool](session::Session& s) { s.ClickTool(tool); });
     }
     imgColorPicker = addButton("tool_picker", tools::kColorPickerTooltip,
-                               [](shell::Session& s) { s.ClickColorPicker(); });
+                               [](session::Session& s) { s.ClickColorPicker(); });
     imgClearAllTools = addButton("tool_clear", tools::kClearAllToolsTooltip,
-                                 [](shell::Session& s) { s.ClickClearAllTools(); });
+                                 [](session::Session& s) { s.ClickClearAllTools(); });
     imgClearAllTools->setCheckable(false);
     layout->addStretch();
 
     connect(picDisp, &SurfaceView::Pressed, this,
             [this](Qt::MouseButton b, Qt::KeyboardModifiers, int x, int y) {
-                Run([&](shell::Session& s) { s.PointerPressed(ButtonOf(b), x, y); });
+                Run([&](session::Session& s) { s.PointerPressed(ButtonOf(b), x, y); });
             });
     connect(picDisp, &SurfaceView::Moved, this,
             [this](Qt::MouseButtons, Qt::KeyboardModifiers m, int x, int y) {
@@ -75,7 +75,7 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
             });
     connect(picDisp, &SurfaceView::Released, this,
             [this](Qt::MouseButton, Qt::KeyboardModifiers m, int x, int y) {
-                Run([&](shell::Session& s) { s.PointerReleased(x, y, m & Qt::ShiftModifier); });
+                Run([&](session::Session& s) { s.PointerReleased(x, y, m & Qt::ShiftModifier); });
             });
 }
 
@@ -103,7 +103,7 @@ void FrmVexlo::SyncPointer() {
 }
 
 void FrmVexlo::SyncToolbox() {
-    const shell::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form;
     for (int i = 0; i < tools::kToolCount; ++i) {
         const bool on = static_cast<int>(form.SelectedTool) == i;
         ToolButtons[static_cast<std::size_t>(i)]->setChecked(on);

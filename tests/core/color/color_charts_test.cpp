@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/color/color_charts.h"
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -53,7 +53,7 @@ protected:
         s.RunFirstActivation("", nullptr);
     }
     ScriptedHost host;
-    shell::Session s{host};
+    session::Session s{host};
 };
 
 TEST_F(PaletteModeTest, StartsIn16ColorsWithWhite) {
@@ -80,7 +80,7 @@ TEST_F(PaletteModeTest, SwitchingTo16ResetsTheColorButChoosingItAgainDoesNot) {
 }
 
 TEST_F(PaletteModeTest, PaletteMenuDoesNothingWhileAnotherFrameIsUp) {
-    s.ShowFrame(shell::Frame::EffectsShades);
+    s.ShowFrame(session::Frame::EffectsShades);
     s.ClickPaletteSub(1);
     EXPECT_EQ(s.Form.PaletteMode, 0);
 }
@@ -93,7 +93,7 @@ TEST_F(PaletteModeTest, TheIconDecidesTheModeWhenItsSlotOpens) {
     s.ClickPanel(1);
     s.ClickPanel(0);
     EXPECT_EQ(s.Form.PaletteMode, 1);
-    host.Answer(shell::MsgAnswer::No);  // the changed icon is to be replaced
+    host.Answer(session::MsgAnswer::No);  // the changed icon is to be replaced
     s.FileNew(1);
     s.ClickPanel(2);
     s.ClickPanel(0);

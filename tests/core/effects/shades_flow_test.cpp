@@ -2,7 +2,7 @@
 // Restore of the Cast controls, and a preview that other frames discard.
 #include <gtest/gtest.h>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -20,12 +20,12 @@ protected:
         s.TakeUndoSnapshot();
     }
     ScriptedHost host;
-    shell::Session s{host};
+    session::Session s{host};
 };
 
 TEST_F(ShadesFlowTest, GrayscaleProceedsIntoThePlanesWithOneUndoEntry) {
     s.RunMenuItem("mnuEffectsSub(2)");
-    EXPECT_EQ(s.Form.VisibleFrame, shell::Frame::EffectsShades);
+    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::EffectsShades);
     EXPECT_EQ(s.Shades.Caption, "Grayscale");
     ASSERT_TRUE(s.Shades.Preview.has_value());
     EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);  // the planes wait for Proceed
@@ -35,7 +35,7 @@ TEST_F(ShadesFlowTest, GrayscaleProceedsIntoThePlanesWithOneUndoEntry) {
     EXPECT_EQ(s.picImage.GetPixel(3, 3), surface::Rgb(gray, gray, gray));
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
-    EXPECT_EQ(s.Form.VisibleFrame, shell::Frame::ColorsPanel);
+    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::ColorsPanel);
     s.UndoStep();
     EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);
 }
@@ -57,7 +57,7 @@ TEST_F(ShadesFlowTest, AnotherFrameDiscardsThePreviewAndNeedsAnIcon) {
     s.ShadesProceed();  // nothing to proceed with
     EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);
     s.ClickPanel(4);
-    host.Answer(shell::MsgAnswer::Ok);
+    host.Answer(session::MsgAnswer::Ok);
     s.RunMenuItem("mnuEffectsSub(3)");
     ASSERT_FALSE(host.shown.empty());
     EXPECT_EQ(host.shown.back().text, "No icon in Editing Area yet");

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::tools {
@@ -19,7 +19,7 @@ class EditingArea : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(session.Load(1024, 768)); }
     test::ScriptedHost host;
-    shell::Session session{host};
+    session::Session session{host};
 };
 
 // The grid as the rules state it: lines at step..n*step (the end point of each left out), for

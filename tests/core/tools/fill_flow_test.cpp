@@ -1,13 +1,13 @@
 // Fill, Replace Color and the Spotlight driven through pointer events on the Editing Area.
 #include <gtest/gtest.h>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
 namespace {
 
-using shell::Session;
+using session::Session;
 using tools::Tool;
 
 class FillFlowTest : public ::testing::Test {

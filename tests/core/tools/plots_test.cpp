@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
 namespace {
 
-using shell::Session;
+using session::Session;
 using surface::Color;
 using tools::Tool;
 

@@ -5,14 +5,14 @@
 
 #include <string>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
 namespace {
 
-using shell::Frame;
-using shell::Session;
+using session::Frame;
+using session::Session;
 using surface::Color;
 using tools::Tool;
 using B = Session::Button;
@@ -149,8 +149,8 @@ TEST_F(Pointer, SelectingTools) {
 
 TEST_F(Pointer, WithNoIconToolClicksSaySoAndThePointerDoesNothing) {
     ASSERT_FALSE(s.InArea());
-    host.Answer(shell::MsgAnswer::Ok);
-    host.Answer(shell::MsgAnswer::Ok);
+    host.Answer(session::MsgAnswer::Ok);
+    host.Answer(session::MsgAnswer::Ok);
     s.ClickTool(Tool::Paint);
     s.ClickColorPicker();
     ASSERT_EQ(host.shown.size(), 2u);
@@ -205,7 +205,7 @@ TEST_F(Pointer, TheColorPickerTakesTheDisplayedPixel) {
     s.PointerReleased(12, 18, false);  // its left edge is a grid line
     EXPECT_EQ(s.SelectedColor, tools::kGridLight);
     s.PointerReleased(30, 30, false);  // transparent cell (2, 2)
-    EXPECT_EQ(s.SelectedColor, shell::kTransparentGray);
+    EXPECT_EQ(s.SelectedColor, session::kTransparentGray);
     EXPECT_EQ(s.UndoCount(), 1);
     EXPECT_FALSE(s.Current().Changed);
     EXPECT_TRUE(s.Form.ColorPickerSelected);

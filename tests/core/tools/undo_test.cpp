@@ -2,7 +2,7 @@
 // and the ways that close the road to redo.
 #include <gtest/gtest.h>
 
-#include "core/shell/session.h"
+#include "core/session/session.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -30,7 +30,7 @@ protected:
     }
 
     ScriptedHost host;
-    shell::Session s{host};
+    session::Session s{host};
 };
 
 TEST_F(UndoTest, ALoadedIconHasOneEntryAndTwelveChangesKeepEleven) {
@@ -91,7 +91,7 @@ TEST_F(UndoTest, AChangedSlotLeftAndReopenedStartsItsHistoryAnew) {
 
 TEST_F(UndoTest, WithNoIconTheCommandsSaySo) {
     s.ClickPanel(2);  // an empty slot
-    host.Answer(shell::MsgAnswer::Ok);
+    host.Answer(session::MsgAnswer::Ok);
     s.RunMenuItem("mnuEditSub(0)");
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, "No icon in Editing Area yet");

@@ -1,0 +1,102 @@
+#pragma once
+// The services that the session needs from the platform it runs on. The window layer
+// implements them on Qt; tests give a scripted fake that answers each question in turn and
+// records its text, so that no flow ever waits on a real dialog.
+#include <cstdint>
+#include <string>
+
+#include "core/alpha/alpha_array.h"
+#include "core/surface/surface.h"
+#include "core/utilities/dialog_requests.h"
+
+namespace vexlo::session {
+
+// Buttons of a message box, as the MsgBox styles vbOKOnly, vbOKCancel, vbYesNoCancel, vbYesNo.
+enum class MsgButtons { Ok, OkCancel, YesNoCancel, YesNo };
+// Icon of a message box: none, vbCritical, vbQuestion, vbExclamation, vbInformation.
+enum class MsgIcon { None, Critical, Question, Exclamation, Information };
+// The button the user chose. A box closed without a choice answers Cancel where there is a
+// Cancel button, else No where there is a No, else Ok.
+enum class MsgAnswer { Ok, Cancel, Yes, No };
+
+// The title every message of the program carries.
+inline constexpr const char* kTitle = "Vexlo";
+// A line break inside a message text.
+inline constexpr const char* kCrLf = "\r\n";
+
+// The answer of frmVexloMultiIcon: in its Edit face the chosen image's planes and
+// "index/size/colors/bits", in its Add face "1" or "2"; an empty choice when cancelled.
+struct MultiIconAnswer {
+    std::string Choice;
+    surface::Surface Image;
+    surface::Surface Mask;
+    alpha::AlphaArray Alpha;
+};
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    // Shows a message; the text uses CR LF for its line breaks.
+    virtual MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                             const std::string& title) = 0;
+    // Lets the platform run pending events (DoEvents).
+    virtual void DoEvents() = 0;
+    // Shows or removes the hourglass pointer.
+    virtual void SetHourglass(bool on) = 0;
+    // The Editing Area's picture changed: repaint it on the screen.
+    virtual void RefreshDisplay() = 0;
+
+    // frmVexloMultiIcon over fileSpec: addMode 0 chooses an image, 1 asks where to add
+    // iconToAdd (described by addDescription).
+    virtual MultiIconAnswer ShowMultiIcon(const std::string& /*fileSpec*/, int /*addMode*/,
+                                          const surface::Surface* /*iconToAdd*/,
+                                          const std::string& /*addDescription*/) {
+        return {};
+    }
+    // Loads a picture file (BMP, GIF, JPEG, PNG, ...) into out at its own size; false when the
+    // platform can't read it.
+    virtual bool LoadPicture(const std::string& /*path*/, surface::Surface& /*out*/) { return false; }
+
+    // Moves the pointer one pixel and back, so that its shape is brought up to date.
+    virtual void NudgePointer() {}
+
+    // Whether the clipboard holds a bitmap.
+    virtual bool ClipboardHasBitmap() { return false; }
+
+    // The common dialogs (clsVexloDialog) and the folder dialog. A cancelled dialog answers
+    // an empty string, -1 or false, and nothing else. Without a platform, every dialog is
+    // cancelled.
+    virtual std::string ShowOpen(const utilities::OpenRequest&) { return {}; }
+    virtual std::string ShowSave(const utilities::SaveRequest&) { return {}; }
+    // The COLORREF chosen, starting from color; -1 when cancelled.
+    virtual std::int32_t ShowColor(std::int32_t /*color*/, bool /*fullOpen*/) { return -1; }
+    virtual bool ShowPrinter(const utilities::PrinterRequest&) { return false; }
+    virtual utilities::PrinterValues Printer() const { return {}; }
+    // GetFolderSpec: the folder chosen in frmDirDialog starting at startFolder, showing
+    // pattern (empty for none); empty when cancelled.
+    virtual std::string GetFolderSpec(const std::string& /*pattern*/,
+                                      const std::string& /*startFolder*/) {
+        return {};
+    }
+};
+
+// A Host that answers every question with its default button and does nothing else; for
+// code paths that run before a window exists and for tests that ask nothing.
+class NullHost : public Host {
+public:
+    MsgAnswer MsgBox(const std::string&, MsgButtons buttons, MsgIcon, const std::string&) override {
+        switch (buttons) {
+            case MsgButtons::Ok: return MsgAnswer::Ok;
+            case MsgButtons::OkCancel: return MsgAnswer::Ok;
+            case MsgButtons::YesNoCancel: return MsgAnswer::Yes;
+            case MsgButtons::YesNo: return MsgAnswer::Yes;
+        }
+        return MsgAnswer::Ok;
+    }
+    void DoEvents() override {}
+    void SetHourglass(bool) override {}
+    void RefreshDisplay() override {}
+};
+
+}  // namespace vexlo::session

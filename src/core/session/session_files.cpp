@@ -1,0 +1,204 @@
+// Opening and saving single-icon files from the window: LoadIconFile and the save commands.
+#include "core/files/atomic_file.h"
+#include "core/files/ico_messages.h"
+#include "core/files/ico_probe.h"
+#include "core/files/ico_read.h"
+#include "core/files/ico_write.h"
+#include "core/session/session.h"
+
+namespace vexlo::session {
+
+namespace {
+
+constexpr const char* kIcoFilter = "Icon files (*.ico)|*.ico|";
+constexpr const char* kIcoSaveFilter = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+
+std::string UpperCase(std::string s) {
+    for (char& c : s)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return s;
+}
+
+}  // namespace
+
+bool Session::CopyIncomingAlphaToSlot() {
+    const int side = IconSideOf(Current().SizeCode);
+    AlphaArray& slot = SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
+    if (side == 0 || IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != side - 1 ||
+        slot.IsSingle() || slot.UpperBound() != side - 1)
+        return false;
+    for (int x = 0; x < side; ++x)
+        for (int y = 0; y < side; ++y) slot.At(x, y) = IncomingAlpha.At(x, y);
+    return true;
+}
+
+bool Session::LoadIconFile(const std::string& path, bool askForImage) {
+    const files::ProbeAnswer probe = files::ProbeIconFile(path, true);
+    if (probe.Kind == 0) {
+        m_host.MsgBox(files::InvalidIconFileMessage(path), MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
+        return false;
+    }
+    if (probe.Usable == 0) {
+        m_host.MsgBox(files::NoUsableIconMessage(path), MsgButtons::Ok, MsgIcon::Information, kTitle);
+        return false;
+    }
+    const bool multi = probe.Kind == 2;
+    if (probe.Usable > 1 && askForImage) return ChooseImageOfFile(path, true);
+    const int w = probe.Width;
+    const int sizeCode = SizeCodeOfSide(w);
+    if (sizeCode == 0) {
+        m_host.MsgBox(files::IconNotOfSizeMessage(path), MsgButtons::Ok, MsgIcon::Information, kTitle);
+        return false;
+    }
+    ResetRegionState();
+    ClearSlot();
+    picDisp.Clear();
+    Current().SizeCode = static_cast<std::int16_t>(sizeCode);
+    SetPanelSize(sizeCode);
+    SetWorkSize(sizeCode);
+
+    m_host.SetHourglass(true);
+    const bool read = files::ReadIconFileToImage(path, probe.Index, picImage, picMask, IncomingAlpha);
+    if (!read) {
+        picImage.Clear();
+        picMask.Clear();
+        m_host.SetHourglass(false);
+        m_host.MsgBox(files::FailedToLoadMessage(path), MsgButtons::Ok, MsgIcon::None, kTitle);
+        return false;
+    }
+    m_host.SetHourglass(false);
+    StoreToPanel();
+    ComposeIcon();
+
+    int bits = probe.BitCount;
+    if (probe.Colors == -1 && bits != 24 && bits != 32) {
+        m_host.MsgBox(files::TrueColorDepthMessage(path), MsgButtons::Ok, MsgIcon::Information, kTitle);
+        return false;
+    }
+    IconSlot& s = Current();
+    s.Occupied = true;
+    s.SetKindText(kKindIcoFile);
+    s.ColorCount = probe.Colors;
+    if (bits == 32 && (IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != w - 1)) bits = 24;
+    s.BitsPerPixel = static_cast<std::int16_t>(bits);
+    s.HasAlpha = bits == 32;
+    s.InEditingArea = true;
+    s.FileSpec = path;
+    s.ClearFileState();
+    if (EnsureAlphaArray() && s.HasAlpha && !CopyIncomingAlphaToSlot()) {
+        m_host.MsgBox(files::AlphaCopyFailedMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
+        s.HasAlpha = false;
+    }
+    s.MultiIconFile = multi;
+    ShowIcon();
+    // The file history takes the path once it exists.
+    return true;
+}
+
+void Session::OpenIconFile() {
+    utilities::OpenRequest request;
+    request.Filter = kIcoFilter;
+    request.DefaultExt = "ico";
+    const std::string path = m_host.ShowOpen(request);
+    if (path.empty()) return;
+    if (LoadIconFile(path, true)) {
+        CurrentPath = path;
+        RefreshPaletteMenu();
+    }
+}
+
+files::IconWriteOptions Session::WriteOptions() const {
+    const IconSlot& s = Current();
+    files::IconWriteOptions options;
+    options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
+    options.KeepTrueColor = s.ColorCount == -1 && s.HasAlpha;
+    options.AlphaValues = &SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
+    return options;
+}
+
+bool Session::SaveIconFile(const std::string& path, bool force256) {
+    IconSlot& s = Current();
+    files::IconWriteOptions options = WriteOptions();
+    options.Force256 = force256;
+    if (!files::WriteIconFile(picImage, picMask, path, options)) {
+        const bool protectedFile = files::IsProtectedFile(path);
+        m_host.MsgBox(files::SaveFailedMessage(path), MsgButtons::Ok,
+                      protectedFile ? MsgIcon::Exclamation : MsgIcon::None, kTitle);
+        return false;
+    }
+    const int count = files::CountColors(picImage);
+    s.FileSpec = path;
+    s.SetKindText(kKindIcoFile);
+    if (count != -1) s.ColorCount = count;
+    s.MultiIconFile = false;
+    s.MultiIconIndex = 0;
+    s.ClearFileState();
+    StoreToPanel();
+    RefreshStatusPanel();
+    return true;
+}
+
+std::string Session::SuggestedSaveName() const {
+    const IconSlot& s = Current();
+    std::string name = s.FileSpec.find('.') != std::string::npos ? files::SplitFileSpec(s.FileSpec, 3)
+                                                                 : s.FileSpec;
+    if (s.MultiIconFile) {
+        static const char* const kSize[4] = {"", "_16_", "_32_", "_48_"};
+        name += s.SizeCode >= 1 && s.SizeCode <= 3 ? kSize[s.SizeCode] : "";
+        name += s.ColorCount == -1 ? std::to_string(s.BitsPerPixel) + "bpp" : std::to_string(s.ColorCount);
+    }
+    return name;
+}
+
+bool Session::SaveDialogFlow(int kind) {
+    if (Form.VisibleFrame != Frame::ColorsPanel && !Form.AniContainerVisible)
+        ShowFrame(Frame::ColorsPanel);
+    ResetRegionState();
+    if ((kind == 1 || kind == 2) && Current().MultiIconFile)
+        m_host.MsgBox(files::MultiIconReminderMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
+    utilities::SaveRequest request;
+    request.FileName = SuggestedSaveName();
+    switch (kind) {
+        case 3: request.Filter = "cursor files (*.cur)|*.cur|(*.*)|*.*|"; request.DefaultExt = "cur"; break;
+        case 4: request.Filter = "Bitmap files (*.bmp)|*.bmp|(*.*)|*.*|"; request.DefaultExt = "bmp"; break;
+        default: request.Filter = kIcoSaveFilter; request.DefaultExt = "ico"; break;
+    }
+    const std::string path = m_host.ShowSave(request);
+    if (path.empty()) return false;
+    CurrentPath = path;
+    bool saved = false;
+    if (kind == 1) saved = SaveIconFile(path, false);
+    if (kind == 2) saved = SaveIconFile(path, true);
+    if (kind == 3) saved = SaveCursorTo(path);
+    if (kind == 4) saved = SaveBitmapTo(path);
+    if (saved) Current().Changed = false;
+    return saved;
+}
+
+void Session::mnuFileSaveICO() {
+    if (!NeedsIconInArea()) return;
+    if (Current().MultiIconFile) {
+        SaveDialogFlow(1);
+        return;
+    }
+    const std::string& s = Current().FileSpec;
+    if (s.size() >= 4 && UpperCase(s.substr(s.size() - 4)) == ".ICO" && files::FileExists(s))
+        SaveIconFile(s, false);
+    else
+        SaveDialogFlow(1);
+}
+
+void Session::mnuFileSaveAsICO() {
+    if (NeedsIconInArea()) SaveDialogFlow(1);
+}
+
+void Session::mnuFileSaveAsICOForce256() {
+    if (!NeedsIconInArea()) return;
+    if (files::CountColors(picImage) == -1) {
+        m_host.MsgBox(files::CannotForce256Message(), MsgButtons::Ok, MsgIcon::None, kTitle);
+        return;
+    }
+    SaveDialogFlow(2);
+}
+
+}  // namespace vexlo::session

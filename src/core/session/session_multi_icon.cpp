@@ -1,0 +1,183 @@
+// Images inside multi-icon files: choosing one to open, saving it back, adding an icon.
+#include "core/files/atomic_file.h"
+#include "core/files/ico_messages.h"
+#include "core/files/ico_write.h"
+#include "core/files/icon_set.h"
+#include "core/session/session.h"
+
+namespace vexlo::session {
+
+namespace {
+
+// "index/size/colors/bits" split at "/".
+std::vector<std::string> SplitChoice(const std::string& text) {
+    std::vector<std::string> fields(1);
+    for (char c : text) {
+        if (c == '/')
+            fields.emplace_back();
+        else
+            fields.back() += c;
+    }
+    return fields;
+}
+
+int NumberOf(const std::string& s) {
+    int v = 0;
+    for (char c : s) {
+        if (c == '-') continue;
+        if (c < '0' || c > '9') break;
+        v = v * 10 + (c - '0');
+    }
+    return !s.empty() && s[0] == '-' ? -v : v;
+}
+
+}  // namespace
+
+void Session::ShowSetMessage(const std::string& text, MsgIcon icon) {
+    m_host.MsgBox(text, MsgButtons::Ok, icon, kTitle);
+}
+
+bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
+    MultiIconAnswer answer = m_host.ShowMultiIcon(path, 0, nullptr, "");
+    if (answer.Choice.empty()) return false;
+    const std::vector<std::string> f = SplitChoice(answer.Choice);
+    const std::string sizeText = f.size() > 1 ? f[1] : "";
+    if (sizeText != "16" && sizeText != "32" && sizeText != "48") {
+        ShowSetMessage(files::kRetrievalFailed, MsgIcon::Exclamation);
+        return false;
+    }
+    const int index = NumberOf(f[0]);
+    const int size = NumberOf(sizeText);
+    const int colors = f.size() > 2 ? NumberOf(f[2]) : 0;
+    int bits = f.size() > 3 ? NumberOf(f[3]) : 0;
+    picImageTemp = std::move(answer.Image);
+    picMaskTemp = std::move(answer.Mask);
+    if (!answer.Alpha.IsSingle()) IncomingAlpha = std::move(answer.Alpha);
+
+    const int sizeCode = SizeCodeOfSide(size);
+    IconSlot& s = Current();
+    s.SizeCode = static_cast<std::int16_t>(sizeCode);
+    SetPanelSize(sizeCode);
+    SetWorkSize(sizeCode);
+    if (bits == 32 && (IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != size - 1)) bits = 24;
+    s.Occupied = true;
+    s.SetKindText(kKindIcoFile);
+    s.ColorCount = colors;
+    s.BitsPerPixel = static_cast<std::int16_t>(bits);
+    s.HasAlpha = bits == 32;
+    s.FileSpec = path;
+    s.MultiIconFile = true;
+    s.MultiIconIndex = static_cast<std::int16_t>(index);
+    s.ClearFileState();
+    if (EnsureAlphaArray() && s.HasAlpha) CopyIncomingAlphaToSlot();
+    if (openIt) {
+        s.InEditingArea = true;
+        tools::CopyPicture(picImageTemp, picImage);
+        tools::CopyPicture(picMaskTemp, picMask);
+        StoreToPanel();
+        ComposeIcon();
+        ShowIcon();
+    } else {
+        s.InEditingArea = false;
+        Surface& icon = picPanelIcon[static_cast<std::size_t>(CurrentSlot)];
+        icon.Clear();
+        surface::BitBlt(icon, 0, 0, size, size, picMaskTemp, 0, 0, surface::Rop::SrcAnd);
+        surface::BitBlt(icon, 0, 0, size, size, picImageTemp, 0, 0, surface::Rop::SrcInvert);
+        surface::BitBlt(picPanelMask[static_cast<std::size_t>(CurrentSlot)], 0, 0, size, size,
+                        picMaskTemp, 0, 0, surface::Rop::SrcCopy);
+    }
+    return true;
+}
+
+void Session::mnuFileSaveMultiIconReplace() {
+    if (!NeedsIconInArea() || !Current().MultiIconFile) return;
+    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    const IconSlot& s = Current();
+    const std::string path = s.FileSpec;
+    const files::SetResult check = files::CheckReplaceTarget(path, s.MultiIconIndex, PicIcon.Width(),
+                                                             PicIcon.Height(), s.ColorCount, s.BitsPerPixel);
+    if (!check) {
+        ShowSetMessage(check.Message, MsgIcon::None);
+        return;
+    }
+    ResetRegionState();
+    utilities::SaveRequest request;
+    request.FileName = files::SplitFileSpec(path, 3);
+    request.Filter = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+    request.DefaultExt = "ico";
+    const std::string target = m_host.ShowSave(request);
+    if (target.empty()) return;
+    CurrentPath = target;
+    const files::SetResult done = files::ReplaceIconInFile(picImage, picMask, WriteOptions(), path,
+                                                           s.MultiIconIndex, target, Dirs.TempDir);
+    if (!done) {
+        ShowSetMessage(done.Message, MsgIcon::None);
+        return;
+    }
+    StoreToPanel();
+    Current().FileSpec = target;
+    Current().NeverSaved = false;
+    Current().Changed = false;
+    RefreshStatusPanel();
+}
+
+void Session::mnuFileSaveMultiIconAddTo() {
+    if (!NeedsIconInArea() || Current().MultiIconFile) return;
+    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    utilities::OpenRequest request;
+    request.Filter = "Icon files (*.ico)|*.ico|";
+    request.DefaultExt = "ico";
+    const std::string path = m_host.ShowOpen(request);
+    if (path.empty()) return;
+    if (path == Current().FileSpec) {
+        ShowSetMessage(files::kCannotAddToItself, MsgIcon::None);
+        return;
+    }
+    const int c = Current().ColorCount == -1 ? -1 : files::CountColors(picImage);
+    const int bits = Current().BitsPerPixel;
+    const files::SetResult check = files::CheckAddTarget(path, PicIcon.Width(), PicIcon.Height(), c, bits);
+    if (!check) {
+        ShowSetMessage(check.Message, MsgIcon::None);
+        return;
+    }
+    const std::string added = AddToFileDialog(path, c, bits);
+    if (added.empty()) return;
+    CurrentPath = added;
+    Current().Changed = false;
+    RefreshPaletteMenu();
+}
+
+std::string Session::AddToFileDialog(const std::string& path, int c, int bits) {
+    const std::string description =
+        files::AddIconDescription(c, bits, PicIcon.Width(), PicIcon.Height());
+    MultiIconAnswer answer = m_host.ShowMultiIcon(path, 1, &PicIcon, description);
+    std::string target = path;
+    if (answer.Choice == "2") {
+        for (;;) {
+            utilities::SaveRequest request;
+            request.FileName = path;
+            request.Filter = "Icon files (*.ico)|*.ico|";
+            request.DefaultExt = "ico";
+            target = m_host.ShowSave(request);
+            if (target.empty()) return {};
+            if (target != Current().FileSpec) break;
+            ShowSetMessage(files::kCannotAddToItself, MsgIcon::None);
+        }
+        if (target != path && !files::CopyFileAtomically(path, target)) {
+            ShowSetMessage(files::FailedToOpenMessage(target), MsgIcon::None);
+            return {};
+        }
+        m_host.DoEvents();
+    } else if (answer.Choice != "1") {
+        return {};
+    }
+    const files::SetResult done =
+        files::AppendIconToFile(picImage, picMask, target, c, bits, WriteOptions(), Dirs.TempDir);
+    if (!done) {
+        ShowSetMessage(done.Message, MsgIcon::None);
+        return {};
+    }
+    return target;
+}
+
+}  // namespace vexlo::session

@@ -1,0 +1,115 @@
+#include "gui/shell/window_host.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QImageReader>
+#include <QMimeData>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include "gui/platform/dialog_handlers.h"
+#include "gui/platform/image_convert.h"
+#include "gui/platform/message_box.h"
+#include "gui/files/frm_vexlo_multi_icon.h"
+#include "gui/utilities/cls_vexlo_dialog.h"
+#include "gui/utilities/frm_dir_dialog.h"
+
+namespace vexlo::gui {
+
+using namespace platform;
+
+WindowHost::WindowHost() = default;
+
+WindowHost::~WindowHost() {
+    if (m_hourglassDepth > 0) QGuiApplication::restoreOverrideCursor();
+}
+
+session::MsgAnswer WindowHost::MsgBox(const std::string& text, session::MsgButtons buttons,
+                                session::MsgIcon icon, const std::string& title) {
+    return ShowMessageBox(text, buttons, icon, title);
+}
+
+void WindowHost::DoEvents() { QCoreApplication::processEvents(); }
+
+void WindowHost::SetHourglass(bool on) {
+    if (on) {
+        if (m_hourglassDepth++ == 0) QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    } else if (m_hourglassDepth > 0) {
+        if (--m_hourglassDepth == 0) QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void WindowHost::NudgePointer() {
+    const QPoint p = QCursor::pos();
+    QCursor::setPos(p.x() > 0 ? p.x() - 1 : p.x() + 1, p.y() > 0 ? p.y() - 1 : p.y() + 1);
+    QCursor::setPos(p);
+}
+
+bool WindowHost::LoadPicture(const std::string& path, surface::Surface& out) {
+    QImageReader reader(QString::fromStdString(path));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    out = FromQImage(picture);
+    return true;
+}
+
+session::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int addMode,
+                                             const surface::Surface* iconToAdd,
+                                             const std::string& addDescription) {
+    gui::MultiIconResult result = gui::frmVexloMultiIcon::Run(QApplication::activeWindow(), fileSpec,
+                                                             addMode, iconToAdd, addDescription);
+    session::MultiIconAnswer answer;
+    answer.Choice = std::move(result.Choice);
+    answer.Image = std::move(result.Image);
+    answer.Mask = std::move(result.Mask);
+    answer.Alpha = std::move(result.Alpha);
+    return answer;
+}
+
+bool WindowHost::ClipboardHasBitmap() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasImage();
+}
+
+void WindowHost::RefreshDisplay() {
+    if (m_refresh) m_refresh();
+}
+
+clsVexloDialog& WindowHost::Dialog() {
+    if (!m_dialog) m_dialog = std::make_unique<clsVexloDialog>();
+    return *m_dialog;
+}
+
+std::string WindowHost::ShowOpen(const utilities::OpenRequest& request) {
+    return Dialog().ShowOpen(request);
+}
+
+std::string WindowHost::ShowSave(const utilities::SaveRequest& request) {
+    return Dialog().ShowSave(request);
+}
+
+std::int32_t WindowHost::ShowColor(std::int32_t color, bool fullOpen) {
+    return Dialog().ShowColor(color, fullOpen);
+}
+
+bool WindowHost::ShowPrinter(const utilities::PrinterRequest& request) {
+    return Dialog().ShowPrinter(request);
+}
+
+utilities::PrinterValues WindowHost::Printer() const {
+    return m_dialog ? m_dialog->Printer() : utilities::PrinterValues{};
+}
+
+std::string WindowHost::GetFolderSpec(const std::string& pattern, const std::string& startFolder) {
+    // A scripted folder dialog answers without touching the current directory.
+    if (const auto handler = CurrentDialogHandlers().folder)
+        return handler(pattern, startFolder, false);
+    const QString start = QString::fromStdString(startFolder);
+    if (!start.isEmpty() && QFileInfo(start).isDir()) QDir::setCurrent(start);
+    return gui::frmDirDialog::Ask(pattern, std::string(), false, QApplication::activeWindow());
+}
+
+}  // namespace vexlo::gui

@@ -1,0 +1,61 @@
+#pragma once
+// The session's services in the main window, on Qt: message boxes through ShowMessageBox, DoEvents,
+// the hourglass pointer, the repaint of the Editing Area, and the common dialogs and the
+// folder dialog (each replaceable through platform/dialog_handlers.h).
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "core/session/host.h"
+
+namespace vexlo::gui {
+
+class clsVexloDialog;
+
+class WindowHost : public session::Host {
+public:
+    WindowHost();
+    // Removes the hourglass if it is still shown.
+    ~WindowHost() override;
+    WindowHost(const WindowHost&) = delete;
+    WindowHost& operator=(const WindowHost&) = delete;
+
+    session::MsgAnswer MsgBox(const std::string& text, session::MsgButtons buttons,
+                            session::MsgIcon icon, const std::string& title) override;
+    void DoEvents() override;
+    // Nested: each "on" needs its "off"; an "off" with none shown is ignored. One wait cursor
+    // override is pushed while the depth is above 0.
+    void SetHourglass(bool on) override;
+    void RefreshDisplay() override;
+    // Moves the pointer one pixel towards the screen's origin (away on an axis where it
+    // stands at 0) and back, so that the widget under it updates its pointer shape.
+    void NudgePointer() override;
+    bool ClipboardHasBitmap() override;
+    // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
+    bool LoadPicture(const std::string& path, surface::Surface& out) override;
+    session::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+                                         const surface::Surface* iconToAdd,
+                                         const std::string& addDescription) override;
+
+    std::string ShowOpen(const utilities::OpenRequest& request) override;
+    std::string ShowSave(const utilities::SaveRequest& request) override;
+    std::int32_t ShowColor(std::int32_t color, bool fullOpen) override;
+    bool ShowPrinter(const utilities::PrinterRequest& request) override;
+    utilities::PrinterValues Printer() const override;
+    // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
+    // not extendable. The folder chosen, or "".
+    std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+
+    // What RefreshDisplay calls; set by the window that shows the Editing Area.
+    void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
+    int HourglassDepth() const { return m_hourglassDepth; }
+    // The common dialogs, made on first use and kept for the whole run.
+    clsVexloDialog& Dialog();
+
+private:
+    int m_hourglassDepth = 0;
+    std::function<void()> m_refresh;
+    std::unique_ptr<clsVexloDialog> m_dialog;
+};
+
+}  // namespace vexlo::gui
