@@ -6,7 +6,7 @@
 
 namespace {
 
-using vexlo::session::NullHost;
+using vexlo::host::NullHost;
 using vexlo::session::Session;
 
 void BM_PlottedPointRedraw(benchmark::State& state) {

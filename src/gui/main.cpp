@@ -12,9 +12,9 @@
 
 namespace {
 
-using vexlo::session::kTitle;
-using vexlo::session::MsgButtons;
-using vexlo::session::MsgIcon;
+using vexlo::host::kTitle;
+using vexlo::host::MsgButtons;
+using vexlo::host::MsgIcon;
 
 void Refuse(const std::string& text, MsgIcon icon) {
     vexlo::platform::ShowMessageBox(text, MsgButtons::Ok, icon, kTitle);

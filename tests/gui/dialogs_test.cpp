@@ -31,7 +31,7 @@
 namespace vexlo::gui {
 namespace {
 
-using session::MsgAnswer;
+using host::MsgAnswer;
 
 // Runs each step on the next modal widget that comes to the top, polling with fresh
 // single-shot timers so that a step may open a nested box. A modal widget left open three
@@ -133,7 +133,7 @@ TEST(DirDialog, OkAsksOnlyWhenThePatternFindsNoFile) {
             EXPECT_EQ(host.shown[0].text, "There is no " + ext +
                                               " files directly in selected folder.\r\n"
                                               "Proceed still?");
-            EXPECT_EQ(host.shown[0].buttons, session::MsgButtons::YesNo);
+            EXPECT_EQ(host.shown[0].buttons, host::MsgButtons::YesNo);
             EXPECT_EQ(host.shown[0].title, "Vexlo");
         }
     }

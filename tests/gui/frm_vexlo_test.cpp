@@ -17,7 +17,7 @@
 namespace vexlo::test {
 namespace {
 
-using session::MsgAnswer;
+using host::MsgAnswer;
 
 class FrmVexloTest : public ::testing::Test {
 protected:

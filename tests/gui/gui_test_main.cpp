@@ -13,8 +13,8 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
     vexlo::platform::SetMessageBoxHandler([](const std::string& text,
-                                             vexlo::session::MsgButtons buttons,
-                                             vexlo::session::MsgIcon, const std::string&) {
+                                             vexlo::host::MsgButtons buttons,
+                                             vexlo::host::MsgIcon, const std::string&) {
         ADD_FAILURE() << "Unscripted message box: " << text;
         return vexlo::platform::ClosedBoxAnswer(buttons);
     });

@@ -24,7 +24,7 @@ namespace vexlo::test {
 namespace {
 
 using gui::frmVexloMultiIcon;
-using session::MsgAnswer;
+using host::MsgAnswer;
 using surface::Color;
 using surface::Surface;
 using ByteVec = std::vector<std::uint8_t>;
@@ -158,7 +158,7 @@ TEST_F(MultiIconDialog, RemoveAsksRewritesTheFileAndSelectsTheNeighbour) {
         dlg->ClickRemove();
         ASSERT_EQ(host.shown.size(), 1u);
         EXPECT_EQ(host.shown[0].text, files::RemoveQuestion(path));
-        EXPECT_EQ(host.shown[0].icon, session::MsgIcon::Question);
+        EXPECT_EQ(host.shown[0].icon, host::MsgIcon::Question);
         host.shown.clear();
         QStringList refs;
         for (const QString& line : Lines(*dlg)) refs << line.left(5);

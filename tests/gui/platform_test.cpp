@@ -23,9 +23,9 @@
 namespace vexlo::platform {
 namespace {
 
-using session::MsgAnswer;
-using session::MsgButtons;
-using session::MsgIcon;
+using host::MsgAnswer;
+using host::MsgButtons;
+using host::MsgIcon;
 
 TEST(MessageBox, HandlerReplacesTheBoxAndGetsTheExactText) {
     test::ScriptedHost outer;
@@ -36,7 +36,7 @@ TEST(MessageBox, HandlerReplacesTheBoxAndGetsTheExactText) {
         test::ScopedScriptedMessageBoxes innerScope(inner);
         inner.Answer(MsgAnswer::No);
         EXPECT_EQ(host.MsgBox("Save changes?\r\nÄnderungen", MsgButtons::YesNoCancel,
-                              MsgIcon::Exclamation, session::kTitle),
+                              MsgIcon::Exclamation, host::kTitle),
                   MsgAnswer::No);
     }
     // The inner scope put the outer handler back.

@@ -16,8 +16,8 @@ public:
     explicit ScopedScriptedDialogs(ScriptedHost& host)
         : m_previousBox(platform::CurrentMessageBoxHandler()),
           m_previousDialogs(platform::CurrentDialogHandlers()) {
-        platform::SetMessageBoxHandler([&host](const std::string& text, session::MsgButtons buttons,
-                                               session::MsgIcon icon, const std::string& title) {
+        platform::SetMessageBoxHandler([&host](const std::string& text, host::MsgButtons buttons,
+                                               host::MsgIcon icon, const std::string& title) {
             return host.MsgBox(text, buttons, icon, title);
         });
         platform::DialogHandlers dialogs;

@@ -14,16 +14,16 @@
 #include <utility>
 #include <vector>
 
-#include "core/session/host.h"
+#include "core/host/host.h"
 
 namespace vexlo::test {
 
-class ScriptedHost : public session::Host {
+class ScriptedHost : public host::Host {
 public:
     struct Shown {
         std::string text;
-        session::MsgButtons buttons;
-        session::MsgIcon icon;
+        host::MsgButtons buttons;
+        host::MsgIcon icon;
         std::string title;
     };
 
@@ -48,17 +48,17 @@ public:
     }
 
     // Queues the answer to the next message box.
-    void Answer(session::MsgAnswer answer) { m_answers.push_back(answer); }
+    void Answer(host::MsgAnswer answer) { m_answers.push_back(answer); }
     std::size_t PendingAnswers() const { return m_answers.size(); }
 
-    session::MsgAnswer MsgBox(const std::string& text, session::MsgButtons buttons,
-                            session::MsgIcon icon, const std::string& title) override {
+    host::MsgAnswer MsgBox(const std::string& text, host::MsgButtons buttons,
+                            host::MsgIcon icon, const std::string& title) override {
         shown.push_back({text, buttons, icon, title});
         if (m_answers.empty()) {
             ADD_FAILURE() << "Unexpected message box: " << text;
             return ClosedAnswer(buttons);
         }
-        const session::MsgAnswer answer = m_answers.front();
+        const host::MsgAnswer answer = m_answers.front();
         m_answers.pop_front();
         if (!HasButton(buttons, answer)) {
             ADD_FAILURE() << "Scripted answer has no button in the box: " << text;
@@ -113,17 +113,17 @@ public:
         return Next(m_folderAnswers, std::string(), "folder dialog: " + pattern);
     }
     // The multi-icon dialog's next answer, and the requests it received.
-    void AnswerMultiIcon(session::MultiIconAnswer answer) { m_multiAnswers.push_back(std::move(answer)); }
+    void AnswerMultiIcon(host::MultiIconAnswer answer) { m_multiAnswers.push_back(std::move(answer)); }
     struct MultiIconRequest {
         std::string fileSpec;
         int addMode;
         std::string addDescription;
     };
     std::vector<MultiIconRequest> multiIconRequests;
-    session::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+    host::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
                                          const surface::Surface*, const std::string& description) override {
         multiIconRequests.push_back({fileSpec, addMode, description});
-        return Next(m_multiAnswers, session::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
+        return Next(m_multiAnswers, host::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
     }
     // Pictures the platform would load, by path; any other path fails to load.
     std::map<std::string, surface::Surface> pictures;
@@ -140,23 +140,23 @@ public:
     }
 
     // The answer of a box closed without a choice.
-    static session::MsgAnswer ClosedAnswer(session::MsgButtons buttons) {
+    static host::MsgAnswer ClosedAnswer(host::MsgButtons buttons) {
         switch (buttons) {
-            case session::MsgButtons::Ok: return session::MsgAnswer::Ok;
-            case session::MsgButtons::OkCancel: return session::MsgAnswer::Cancel;
-            case session::MsgButtons::YesNoCancel: return session::MsgAnswer::Cancel;
-            case session::MsgButtons::YesNo: return session::MsgAnswer::No;
+            case host::MsgButtons::Ok: return host::MsgAnswer::Ok;
+            case host::MsgButtons::OkCancel: return host::MsgAnswer::Cancel;
+            case host::MsgButtons::YesNoCancel: return host::MsgAnswer::Cancel;
+            case host::MsgButtons::YesNo: return host::MsgAnswer::No;
         }
-        return session::MsgAnswer::Ok;
+        return host::MsgAnswer::Ok;
     }
-    static bool HasButton(session::MsgButtons buttons, session::MsgAnswer answer) {
-        using session::MsgAnswer;
+    static bool HasButton(host::MsgButtons buttons, host::MsgAnswer answer) {
+        using host::MsgAnswer;
         switch (buttons) {
-            case session::MsgButtons::Ok: return answer == MsgAnswer::Ok;
-            case session::MsgButtons::OkCancel:
+            case host::MsgButtons::Ok: return answer == MsgAnswer::Ok;
+            case host::MsgButtons::OkCancel:
                 return answer == MsgAnswer::Ok || answer == MsgAnswer::Cancel;
-            case session::MsgButtons::YesNoCancel: return answer != MsgAnswer::Ok;
-            case session::MsgButtons::YesNo:
+            case host::MsgButtons::YesNoCancel: return answer != MsgAnswer::Ok;
+            case host::MsgButtons::YesNo:
                 return answer == MsgAnswer::Yes || answer == MsgAnswer::No;
         }
         return false;
@@ -189,13 +189,13 @@ private:
         return answer;
     }
 
-    std::deque<session::MsgAnswer> m_answers;
+    std::deque<host::MsgAnswer> m_answers;
     std::deque<std::string> m_openAnswers;
     std::deque<std::string> m_saveAnswers;
     std::deque<std::int32_t> m_colorAnswers;
     std::deque<PrinterAnswer> m_printerAnswers;
     std::deque<std::string> m_folderAnswers;
-    std::deque<session::MultiIconAnswer> m_multiAnswers;
+    std::deque<host::MultiIconAnswer> m_multiAnswers;
 };
 
 }  // namespace vexlo::test

@@ -11,7 +11,7 @@
 #include "core/effects/shades.h"
 #include "core/files/ico_write.h"
 #include "core/session/form_state.h"
-#include "core/session/host.h"
+#include "core/host/host.h"
 #include "core/session/icon_slot.h"
 #include "core/session/menu_tree.h"
 #include "core/surface/surface.h"
@@ -23,6 +23,14 @@ namespace vexlo::session {
 
 using surface::Color;
 using surface::Surface;
+using host::Host;
+using host::kCrLf;
+using host::kTitle;
+using host::MsgAnswer;
+using host::MsgButtons;
+using host::MsgIcon;
+using host::MultiIconAnswer;
+using host::NullHost;
 
 inline constexpr Color kTransparentGray = 0xC0C0C0;  // the session's transparent color on screen
 inline constexpr Color kWindowColor = 0xFFFFFF;      // the system window color

@@ -16,7 +16,7 @@
 #include <QTimer>
 
 #include "core/files/ico_read.h"
-#include "core/session/host.h"
+#include "core/host/host.h"
 #include "gui/platform/message_box.h"
 #include "gui/platform/surface_view.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
@@ -369,8 +369,8 @@ void frmVexloMultiIcon::Preview(int k) {
         read = files::ReadIconFileToImage(m_fileSpec, item->Index, m_picImageX, m_picMaskX, m_incomingAlpha);
     }
     if (!read) {
-        platform::ShowMessageBox(files::UnableToGetMessage(item->Index + 1), session::MsgButtons::Ok,
-                                 session::MsgIcon::None, session::kTitle);
+        platform::ShowMessageBox(files::UnableToGetMessage(item->Index + 1), host::MsgButtons::Ok,
+                                 host::MsgIcon::None, host::kTitle);
         return;
     }
     const auto i = static_cast<std::size_t>(Face(k));

@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "core/files/ico_read.h"
-#include "core/session/host.h"
+#include "core/host/host.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/platform/message_box.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
@@ -16,16 +16,16 @@ namespace vexlo::gui {
 
 namespace {
 
-using session::MsgAnswer;
-using session::MsgButtons;
-using session::MsgIcon;
+using host::MsgAnswer;
+using host::MsgButtons;
+using host::MsgIcon;
 
 void Tell(const std::string& text) {
-    platform::ShowMessageBox(text, MsgButtons::Ok, MsgIcon::None, session::kTitle);
+    platform::ShowMessageBox(text, MsgButtons::Ok, MsgIcon::None, host::kTitle);
 }
 
 bool Confirm(const std::string& question) {
-    return platform::ShowMessageBox(question, MsgButtons::YesNo, MsgIcon::Question, session::kTitle) ==
+    return platform::ShowMessageBox(question, MsgButtons::YesNo, MsgIcon::Question, host::kTitle) ==
            MsgAnswer::Yes;
 }
 

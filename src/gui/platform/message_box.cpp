@@ -9,9 +9,9 @@ namespace vexlo::platform {
 
 namespace {
 
-using session::MsgAnswer;
-using session::MsgButtons;
-using session::MsgIcon;
+using host::MsgAnswer;
+using host::MsgButtons;
+using host::MsgIcon;
 
 MessageBoxHandler& Handler() {
     static MessageBoxHandler handler;

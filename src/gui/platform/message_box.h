@@ -5,16 +5,16 @@
 #include <functional>
 #include <string>
 
-#include "core/session/host.h"
+#include "core/host/host.h"
 
 namespace vexlo::platform {
 
-using MessageBoxHandler = std::function<session::MsgAnswer(
-    const std::string& text, session::MsgButtons, session::MsgIcon, const std::string& title)>;
+using MessageBoxHandler = std::function<host::MsgAnswer(
+    const std::string& text, host::MsgButtons, host::MsgIcon, const std::string& title)>;
 
 // Shows a message (UTF-8 text, CR LF for line breaks) and answers the button chosen.
-session::MsgAnswer ShowMessageBox(const std::string& text, session::MsgButtons buttons,
-                                session::MsgIcon icon, const std::string& title);
+host::MsgAnswer ShowMessageBox(const std::string& text, host::MsgButtons buttons,
+                                host::MsgIcon icon, const std::string& title);
 
 // Replaces the message box; an empty handler restores the real QMessageBox.
 void SetMessageBoxHandler(MessageBoxHandler handler);
@@ -23,6 +23,6 @@ const MessageBoxHandler& CurrentMessageBoxHandler();
 
 // The answer of a box closed without a choice: Cancel where there is a Cancel button, else No
 // where there is a No, else Ok.
-session::MsgAnswer ClosedBoxAnswer(session::MsgButtons buttons);
+host::MsgAnswer ClosedBoxAnswer(host::MsgButtons buttons);
 
 }  // namespace vexlo::platform

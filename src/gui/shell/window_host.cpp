@@ -27,8 +27,8 @@ WindowHost::~WindowHost() {
     if (m_hourglassDepth > 0) QGuiApplication::restoreOverrideCursor();
 }
 
-session::MsgAnswer WindowHost::MsgBox(const std::string& text, session::MsgButtons buttons,
-                                session::MsgIcon icon, const std::string& title) {
+host::MsgAnswer WindowHost::MsgBox(const std::string& text, host::MsgButtons buttons,
+                                host::MsgIcon icon, const std::string& title) {
     return ShowMessageBox(text, buttons, icon, title);
 }
 
@@ -56,12 +56,12 @@ bool WindowHost::LoadPicture(const std::string& path, surface::Surface& out) {
     return true;
 }
 
-session::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int addMode,
+host::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int addMode,
                                              const surface::Surface* iconToAdd,
                                              const std::string& addDescription) {
     gui::MultiIconResult result = gui::frmVexloMultiIcon::Run(QApplication::activeWindow(), fileSpec,
                                                              addMode, iconToAdd, addDescription);
-    session::MultiIconAnswer answer;
+    host::MultiIconAnswer answer;
     answer.Choice = std::move(result.Choice);
     answer.Image = std::move(result.Image);
     answer.Mask = std::move(result.Mask);

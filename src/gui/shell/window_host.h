@@ -6,13 +6,13 @@
 #include <memory>
 #include <string>
 
-#include "core/session/host.h"
+#include "core/host/host.h"
 
 namespace vexlo::gui {
 
 class clsVexloDialog;
 
-class WindowHost : public session::Host {
+class WindowHost : public host::Host {
 public:
     WindowHost();
     // Removes the hourglass if it is still shown.
@@ -20,8 +20,8 @@ public:
     WindowHost(const WindowHost&) = delete;
     WindowHost& operator=(const WindowHost&) = delete;
 
-    session::MsgAnswer MsgBox(const std::string& text, session::MsgButtons buttons,
-                            session::MsgIcon icon, const std::string& title) override;
+    host::MsgAnswer MsgBox(const std::string& text, host::MsgButtons buttons,
+                            host::MsgIcon icon, const std::string& title) override;
     void DoEvents() override;
     // Nested: each "on" needs its "off"; an "off" with none shown is ignored. One wait cursor
     // override is pushed while the depth is above 0.
@@ -33,7 +33,7 @@ public:
     bool ClipboardHasBitmap() override;
     // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
     bool LoadPicture(const std::string& path, surface::Surface& out) override;
-    session::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
+    host::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
                                          const surface::Surface* iconToAdd,
                                          const std::string& addDescription) override;
 

@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-#include "core/session/host.h"
+#include "core/host/host.h"
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/message_box.h"
 
@@ -145,9 +145,9 @@ bool frmDirDialog::ClickOK() {
     if (FileListBox1->count() == 0 && m_pattern.size() > 3) {
         const std::string ext = m_pattern.substr(2);
         const std::string question = "There is no " + ext + " files directly in selected folder." +
-                                     session::kCrLf + "Proceed still?";
-        if (platform::ShowMessageBox(question, session::MsgButtons::YesNo, session::MsgIcon::None,
-                                     session::kTitle) != session::MsgAnswer::Yes)
+                                     host::kCrLf + "Proceed still?";
+        if (platform::ShowMessageBox(question, host::MsgButtons::YesNo, host::MsgIcon::None,
+                                     host::kTitle) != host::MsgAnswer::Yes)
             return false;
     }
     m_chosen = m_folder;

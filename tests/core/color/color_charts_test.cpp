@@ -93,7 +93,7 @@ TEST_F(PaletteModeTest, TheIconDecidesTheModeWhenItsSlotOpens) {
     s.ClickPanel(1);
     s.ClickPanel(0);
     EXPECT_EQ(s.Form.PaletteMode, 1);
-    host.Answer(session::MsgAnswer::No);  // the changed icon is to be replaced
+    host.Answer(host::MsgAnswer::No);  // the changed icon is to be replaced
     s.FileNew(1);
     s.ClickPanel(2);
     s.ClickPanel(0);

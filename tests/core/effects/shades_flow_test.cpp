@@ -57,7 +57,7 @@ TEST_F(ShadesFlowTest, AnotherFrameDiscardsThePreviewAndNeedsAnIcon) {
     s.ShadesProceed();  // nothing to proceed with
     EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);
     s.ClickPanel(4);
-    host.Answer(session::MsgAnswer::Ok);
+    host.Answer(host::MsgAnswer::Ok);
     s.RunMenuItem("mnuEffectsSub(3)");
     ASSERT_FALSE(host.shown.empty());
     EXPECT_EQ(host.shown.back().text, "No icon in Editing Area yet");

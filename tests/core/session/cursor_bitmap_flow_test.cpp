@@ -14,7 +14,7 @@ namespace vexlo::test {
 namespace {
 
 namespace fs = std::filesystem;
-using session::MsgAnswer;
+using host::MsgAnswer;
 using surface::Color;
 using surface::Surface;
 

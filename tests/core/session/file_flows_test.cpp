@@ -16,7 +16,7 @@ namespace vexlo::test {
 namespace {
 
 namespace fs = std::filesystem;
-using session::MsgAnswer;
+using host::MsgAnswer;
 using surface::Color;
 
 class FileFlowTest : public ::testing::Test {
@@ -101,7 +101,7 @@ TEST_F(FileFlowTest, AProtectedTargetIsRefusedAndKeptAsItWas) {
         s.RunMenuItem("mnuFileSaveAsICO");
         ASSERT_EQ(host.shown.size(), 1u);
         EXPECT_EQ(host.shown[0].text, files::ReadOnlyFileMessage());
-        EXPECT_EQ(host.shown[0].icon, session::MsgIcon::Exclamation);
+        EXPECT_EQ(host.shown[0].icon, host::MsgIcon::Exclamation);
         EXPECT_EQ(s.Current().FileSpec, "Untitled");
     }
     EXPECT_TRUE(fs::is_directory(folderTarget));
@@ -128,7 +128,7 @@ TEST_F(FileFlowTest, BadFilesGiveTheirMessagesAndLeaveTheSlot) {
     s.RunMenuItem("mnuFileOpen(0)");
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, files::InvalidIconFileMessage(Path("junk.ico")));
-    EXPECT_EQ(host.shown[0].icon, session::MsgIcon::Exclamation);
+    EXPECT_EQ(host.shown[0].icon, host::MsgIcon::Exclamation);
     EXPECT_TRUE(SamePixels(s.picImage, image));
     EXPECT_EQ(s.Current().FileSpec, "Untitled");
 }

@@ -16,7 +16,7 @@ namespace vexlo::test {
 namespace {
 
 namespace fs = std::filesystem;
-using session::MsgAnswer;
+using host::MsgAnswer;
 using surface::Color;
 using surface::Surface;
 
@@ -44,8 +44,8 @@ protected:
     }
     std::string Path(const std::string& name) const { return folder.Path(name); }
     // The dialog's answer for image index of the set at path.
-    session::MultiIconAnswer Choice(int index, const char* text) {
-        session::MultiIconAnswer a;
+    host::MultiIconAnswer Choice(int index, const char* text) {
+        host::MultiIconAnswer a;
         a.Choice = text;
         EXPECT_TRUE(files::ReadIconFileToImage(Path("multi.ico"), index, a.Image, a.Mask, a.Alpha));
         return a;
@@ -115,7 +115,7 @@ TEST_F(MultiIconFlowTest, AddingA16ColorIconOnceAndRefusingItTheSecondTime) {
     s.Current().BitsPerPixel = 4;
     s.Current().Changed = true;
     host.AnswerOpen(Path("target.ico"));
-    session::MultiIconAnswer save;
+    host::MultiIconAnswer save;
     save.Choice = "1";
     host.AnswerMultiIcon(save);
     s.RunMenuItem("mnuFileSaveMultiIconAddTo");

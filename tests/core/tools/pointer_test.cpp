@@ -149,8 +149,8 @@ TEST_F(Pointer, SelectingTools) {
 
 TEST_F(Pointer, WithNoIconToolClicksSaySoAndThePointerDoesNothing) {
     ASSERT_FALSE(s.InArea());
-    host.Answer(session::MsgAnswer::Ok);
-    host.Answer(session::MsgAnswer::Ok);
+    host.Answer(host::MsgAnswer::Ok);
+    host.Answer(host::MsgAnswer::Ok);
     s.ClickTool(Tool::Paint);
     s.ClickColorPicker();
     ASSERT_EQ(host.shown.size(), 2u);

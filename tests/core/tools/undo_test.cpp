@@ -91,7 +91,7 @@ TEST_F(UndoTest, AChangedSlotLeftAndReopenedStartsItsHistoryAnew) {
 
 TEST_F(UndoTest, WithNoIconTheCommandsSaySo) {
     s.ClickPanel(2);  // an empty slot
-    host.Answer(session::MsgAnswer::Ok);
+    host.Answer(host::MsgAnswer::Ok);
     s.RunMenuItem("mnuEditSub(0)");
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, "No icon in Editing Area yet");

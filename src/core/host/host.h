@@ -9,7 +9,7 @@
 #include "core/surface/surface.h"
 #include "core/utilities/dialog_requests.h"
 
-namespace vexlo::session {
+namespace vexlo::host {
 
 // Buttons of a message box, as the MsgBox styles vbOKOnly, vbOKCancel, vbYesNoCancel, vbYesNo.
 enum class MsgButtons { Ok, OkCancel, YesNoCancel, YesNo };
@@ -99,4 +99,4 @@ public:
     void RefreshDisplay() override {}
 };
 
-}  // namespace vexlo::session
+}  // namespace vexlo::host
