@@ -16,17 +16,17 @@ void BM_PlottedPointRedraw(benchmark::State& state) {
     const int entry = static_cast<int>(state.range(0));  // 0: 32x32, 1: 16x16, 2: 48x48
     session.FileNew(entry);
     for (int i = 0; i < static_cast<int>(state.range(1)); ++i) session.ClickGridline(0);
-    const int side = session.picImage.Width();
+    const int side = session.Icon().Image().Width();
     int k = 0;
     for (auto _ : state) {
         // One plotted point: a painted pixel in both planes, then the redraw.
         const int x = k % side;
         const int y = (k / side) % side;
-        session.picImage.SetPixelV(x, y, static_cast<vexlo::surface::Color>(k * 2654435761u) & 0xFFFFFF);
-        session.picMask.SetPixelV(x, y, 0);
+        session.Icon().Image().SetPixelV(x, y, static_cast<vexlo::surface::Color>(k * 2654435761u) & 0xFFFFFF);
+        session.Icon().Mask().SetPixelV(x, y, 0);
         session.ComposeIcon();
         session.MagnifyIcon();
-        benchmark::DoNotOptimize(session.picDisp.Data());
+        benchmark::DoNotOptimize(session.View().Disp().Data());
         ++k;
     }
     state.SetLabel(std::to_string(side) + "x" + std::to_string(side));

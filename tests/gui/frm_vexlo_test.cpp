@@ -38,7 +38,7 @@ TEST_F(FrmVexloTest, NewIcon48ShowsItsGridSizeAndName) {
     Open();
     window->Item("mnuFileNew(2)")->trigger();
     const session::Session& s = window->session();
-    EXPECT_EQ(s.MagnifyStep, 8);
+    EXPECT_EQ(s.View().MagnifyStep(), 8);
     EXPECT_EQ(window->lblStatusPanel[0]->text(), "Untitled");
     EXPECT_EQ(window->lblStatusPanel[2]->text(), "48 x 48");
     // What the widget shows: gray cells, light grid lines every 8 pixels (0x606060 AND gray).
@@ -53,13 +53,13 @@ TEST_F(FrmVexloTest, PanelClickMovesTheHighlightAndOpensTheSlot) {
     window->Item("mnuFileNew(1)")->trigger();  // 16x16 in slot 0
     QTest::mouseClick(window->picPanelIcon[2], Qt::LeftButton);
     const session::Session& s = window->session();
-    EXPECT_EQ(s.CurrentSlot, 2);
+    EXPECT_EQ(s.CurrentSlot(), 2);
     EXPECT_EQ(window->lblPanelIcon[2]->palette().color(QPalette::Window), QColor(Qt::white));
     EXPECT_EQ(window->lblPanelIcon[0]->palette().color(QPalette::Window), QColor(0xE0, 0xE0, 0xE0));
     EXPECT_EQ(window->lblStatusPanel[0]->text(), "");
     // Back to the 16x16 icon: only the top left quarter of the Editing Area is in use.
     QTest::mouseClick(window->picPanelIcon[0], Qt::LeftButton);
-    EXPECT_EQ(s.CurrentSlot, 0);
+    EXPECT_EQ(s.CurrentSlot(), 0);
     EXPECT_EQ(window->lblStatusPanel[2]->text(), "16 x 16");
     EXPECT_EQ(DispPixel(192, 100), 0x404040u);  // the quarter's right border
     EXPECT_EQ(DispPixel(300, 300), 0xC0C0C0u);
@@ -156,13 +156,13 @@ TEST_F(FrmVexloTest, PaintingACellWithThePointerEnablesUndo) {
     QTest::mousePress(window->picDisp, Qt::LeftButton, {}, cell);
     QTest::mouseRelease(window->picDisp, Qt::LeftButton, {}, cell);
     const session::Session& s = window->session();
-    EXPECT_EQ(s.picImage.GetPixel(5, 7), 0xFFFFFFu);
-    EXPECT_EQ(s.picMask.GetPixel(5, 7), 0u);
+    EXPECT_EQ(s.Icon().Image().GetPixel(5, 7), 0xFFFFFFu);
+    EXPECT_EQ(s.Icon().Mask().GetPixel(5, 7), 0u);
     EXPECT_TRUE(s.Current().Changed);
     EXPECT_EQ(s.UndoCount(), 2);
     EXPECT_TRUE(window->cmdTB[6]->isEnabled());
     window->cmdTB[6]->click();  // Undo
-    EXPECT_EQ(s.picMask.GetPixel(5, 7), 0xFFFFFFu);
+    EXPECT_EQ(s.Icon().Mask().GetPixel(5, 7), 0xFFFFFFu);
 }
 
 TEST_F(FrmVexloTest, AToolNeedsAnIcon) {
@@ -178,8 +178,8 @@ TEST_F(FrmVexloTest, ABitmapSavedAndImportedAgainKeepsItsTransparentPixels) {
     Open();
     window->Item("mnuFileNew(1)")->trigger();
     session::Session& s = window->session();
-    s.picImage.SetPixelV(2, 2, 0x0000FF);
-    s.picMask.SetPixelV(2, 2, 0);
+    s.Icon().Image().SetPixelV(2, 2, 0x0000FF);
+    s.Icon().Mask().SetPixelV(2, 2, 0);
     s.ComposeIcon();
     const std::string path = (QDir::tempPath() + "/vexlo_bitmap_round_trip.bmp").toStdString();
     host.AnswerSave(path);
@@ -188,9 +188,9 @@ TEST_F(FrmVexloTest, ABitmapSavedAndImportedAgainKeepsItsTransparentPixels) {
     host.Answer(MsgAnswer::Ok);  // the reminder about transparent areas
     window->Item("mnuFileOpen(3)")->trigger();
     EXPECT_EQ(s.Current().KindText, "BMP or other file");
-    EXPECT_EQ(s.picImage.GetPixel(2, 2), 0x0000FFu);
-    EXPECT_EQ(s.picMask.GetPixel(2, 2), 0u);
-    EXPECT_EQ(s.picMask.GetPixel(5, 5), 0xFFFFFFu);  // gray in the bitmap: transparent again
+    EXPECT_EQ(s.Icon().Image().GetPixel(2, 2), 0x0000FFu);
+    EXPECT_EQ(s.Icon().Mask().GetPixel(2, 2), 0u);
+    EXPECT_EQ(s.Icon().Mask().GetPixel(5, 5), 0xFFFFFFu);  // gray in the bitmap: transparent again
     QFile::remove(QString::fromStdString(path));
 }
 

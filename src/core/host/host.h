@@ -81,6 +81,18 @@ public:
     }
 };
 
+// The hourglass pointer while in scope.
+class Hourglass {
+public:
+    explicit Hourglass(Host& host) : m_host(host) { m_host.SetHourglass(true); }
+    ~Hourglass() { m_host.SetHourglass(false); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+private:
+    Host& m_host;
+};
+
 // A Host that answers every question with its default button and does nothing else; for
 // code paths that run before a window exists and for tests that ask nothing.
 class NullHost : public Host {

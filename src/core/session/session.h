@@ -1,23 +1,31 @@
 #pragma once
-// The editing session of the main window: every working Surface, the six IconSlot records
-// with their alpha arrays, and the operations that move pictures between the panel and the
-// working planes. The window calls these from its handlers and redraws itself from the
-// Surfaces and the FormState; nothing here knows about widgets.
+// The editing session of the main window: the one front door that the window's handlers call.
+// It owns its parts, each with its own state and folder, and runs the flows that cross them:
+//   EditedIcon        the planes, the composed icon, the undo history
+//   IconsPanel        the six slots, their records, alpha values and panel pictures
+//   EditingView       picDisp, the grid, the zoom, the Region's marks and the rubber band
+//   EffectsPanels     what the effect frames keep while they are up
+//   AniSession, IconsListSession   the animated cursor session and the Icons List
+// The window redraws itself from the parts' pictures and the FormState; nothing here knows
+// about widgets.
 #include <array>
+#include <functional>
 #include <string>
+#include <string_view>
 
-#include <optional>
-
-#include "core/effects/shades.h"
 #include "core/files/ico_write.h"
-#include "core/session/form_state.h"
 #include "core/host/host.h"
+#include "core/icon/icon_colors.h"
+#include "core/session/ani_frames/ani_session.h"
+#include "core/session/edited_icon/edited_icon.h"
+#include "core/session/editing_view/editing_view.h"
+#include "core/session/effects_panels/effects_panels.h"
+#include "core/session/form_state.h"
 #include "core/session/icon_slot.h"
+#include "core/session/icons_list/icons_list_session.h"
+#include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
-#include "core/surface/surface.h"
-#include "core/tools/editing_area.h"
 #include "core/tools/tool_state.h"
-#include "core/tools/undo_history.h"
 
 namespace vexlo::session {
 
@@ -31,11 +39,10 @@ using host::MsgButtons;
 using host::MsgIcon;
 using host::MultiIconAnswer;
 using host::NullHost;
-
-inline constexpr Color kTransparentGray = 0xC0C0C0;  // the session's transparent color on screen
-inline constexpr Color kWindowColor = 0xFFFFFF;      // the system window color
-inline constexpr Color kWhite = 0xFFFFFF;
-inline constexpr Color kBlack = 0x000000;
+using icon::kBlack;
+using icon::kTransparentGray;
+using icon::kWhite;
+using icon::kWindowColor;
 
 inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
 
@@ -61,46 +68,39 @@ public:
 
     Host& host() { return m_host; }
 
-    // --- Surfaces -----------------------------------------------------------------------
-    Surface picImage, picMask, PicIcon, picDisp, PicGrid, picUndo;
-    Surface picImageRegion, picMaskRegion, picImageSnap, picMaskSnap;
-    Surface picImageTemp, picMaskTemp, picTemp, picAuto;
-    std::array<Surface, kSlotCount> picPanelIcon, picPanelMask;
+    // --- The parts ------------------------------------------------------------------------
+    EditedIcon& Icon() { return m_icon; }
+    const EditedIcon& Icon() const { return m_icon; }
+    const IconsPanel& Panel() const { return m_panel; }
+    const EditingView& View() const { return m_view; }
+    const ShadesState& Shades() const { return m_effects.Shades(); }
+    const AniSession& Ani() const { return m_ani; }
+    const FormState& Form() const { return m_form; }
 
-    // --- Records and session variables --------------------------------------------------
-    std::array<IconSlot, kSlotCount> Slots;
-    std::array<AlphaArray, kSlotCount> SlotAlpha;
-    AlphaArray IncomingAlpha;
-    int CurrentSlot = 0;
-    int MagnifyStep = 12;
-    Color GridColor = tools::kGridLight;
-    std::string CurrentPath;
-    Directories Dirs;
-
-    bool FormLoading = false;
-    bool FirstActivation = true;
-    bool QuitAtActivation = false;
-
-    // Region and band rectangles that the Editing Area outlines.
-    bool RegionExists = false;
-    bool RegionEdgeDragged = false;
-    tools::DispRect RegionRect;
-    tools::CellRect RegionCells;
-    tools::DispRect Band;
-
-    FormState Form;
-    Color SelectedColor = kWhite;  // the Current Selected Color
-    tools::DrawState Draw;
-
-    IconSlot& Current() { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
-    const IconSlot& Current() const { return Slots[static_cast<std::size_t>(CurrentSlot)]; }
+    // The records are plain data; whoever changes one keeps its slot's pictures in step.
+    IconSlot& SlotRecord(int k) { return m_panel.Slot(k); }
+    IconSlot& Current() { return m_panel.Current(); }
+    const IconSlot& Current() const { return m_panel.Current(); }
+    int CurrentSlot() const { return m_panel.CurrentSlot(); }
     bool InArea() const { return Current().InEditingArea; }
 
-    // --- The load of the window and the exit ---------------------------------------------
+    Color SelectedColor() const { return m_selectedColor; }  // the Current Selected Color
+    void SetSelectedColor(Color c) { m_selectedColor = c; }
+    const Directories& Dirs() const { return m_dirs; }
+    void SetDirectories(const Directories& dirs) { m_dirs = dirs; }
+    const std::string& CurrentPath() const { return m_currentPath; }
+    bool FormLoading() const { return m_formLoading; }
+    bool FirstActivation() const { return m_firstActivation; }
+    bool QuitAtActivation() const { return m_quitAtActivation; }
+    // True while pending events run in the middle of an operation: a handler that starts now
+    // would interleave with it, so the window drops input until it ends.
+    bool Busy() const { return m_pendingEventsDepth > 0; }
+
+    // --- The load of the window and the exit (session_lifecycle.cpp) -----------------------
     // The load's own steps; false when the user declined to go on with too small a screen
     // (QuitAtActivation is then set).
     bool Load(int screenWidth, int screenHeight);
-    // The first activation's own steps with the command line as given. fileLoaded reports
+    // The first activation's own steps with the command line as given. keepWorkingDir tells
     // whether an ICO or CUR file was loaded, after which the working directory stays.
     CommandLineResult RunFirstActivation(const std::string& commandLine, bool* keepWorkingDir);
     // The exit question over the unsaved slots; false when the user chose to stay.
@@ -110,13 +110,14 @@ public:
     // The common error box: label, line break, number, five blanks, description.
     void ReportError(const std::string& label, long number, const std::string& description);
 
-    // --- The model's operations ----------------------------------------------------------
+    // --- The icon between panel and Editing Area (session_model.cpp) -----------------------
     void SetWorkSize(int sizeCode);
-    void SetPanelSize(int sizeCode);
-    void ComposeIcon();
-    void StoreToPanel();
+    void SetPanelSize(int sizeCode) { m_panel.SetPanelSize(sizeCode); }
+    void ComposeIcon() { m_icon.Compose(); }
+    void StoreToPanel() { m_panel.StoreToPanel(m_icon.Image(), m_icon.Mask()); }
     void ClearSlot();
     bool EnsureAlphaArray();
+    bool CopyIncomingAlphaToSlot() { return m_panel.CopyIncomingAlphaToSlot(); }
     void RebuildFromPanel();
     void ShowIcon();
     void ParkIcon();
@@ -125,8 +126,11 @@ public:
     void OpenEmptySlot();
     // lblPanelIcon(k) white, the others light gray.
     void MarkCurrentLabel(int k);
+    // Every edit of the icon ends here: the edit runs on the planes, then the icon is
+    // composed, marked changed, shown, and recorded as one undo step.
+    void ApplyToIcon(const std::function<void(Surface& image, Surface& mask)>& edit);
 
-    // --- Panel, frames and the commands that replace the current icon ----------------------
+    // --- Panel, frames and the commands that replace the current icon (session_panel.cpp) --
     void ShowFrame(Frame frame);
     bool AskSaveCurrent();
     bool GuardReplaceCurrent();
@@ -136,115 +140,91 @@ public:
     void FileOpen(int entry);
     void CancelFrame();
 
-    // --- Editing Area ---------------------------------------------------------------------
+    // --- Editing Area (session_display.cpp) ------------------------------------------------
     void MagnifyIcon();
     void BuildGrid();
-    void OverlayGrid();
-    void DrawRegionOutline();
-    void DrawLineBand();
-    void DrawBoxBand();
-    void ShowRegionMeasure();
     void ClickGridline(int item);
-    void ClickDisplayMask();
+    void ClickDisplayMask() { m_form.DisplayMaskChecked = !m_form.DisplayMaskChecked; }
     // The pointer moved over picDisp at (x, y) in its pixels.
     void PointerOverDisp(int x, int y);
 
-    // --- Toolbox and the pointer on the Editing Area ---------------------------------------
+    // --- Toolbox and the pointer on the Editing Area (session_tools.cpp, session_pointer.cpp)
     enum class Button { Left, Right, Middle };
     // A click on the tool's picture (SelectTool), on the Color Picker, on Clear all tools.
     void ClickTool(tools::Tool tool);
     void ClickColorPicker();
     void ClickClearAllTools();
-    bool AnyToolSelected() const { return Form.SelectedTool != tools::Tool::None; }
-    // Whether (x, y) of picDisp lies in the icon's part of it.
-    bool InsideIcon(int x, int y) const;
+    bool AnyToolSelected() const { return m_form.SelectedTool != tools::Tool::None; }
     void UpdatePointerShape(int x, int y);
     void PointerPressed(Button button, int x, int y);
     // modifierDown: Shift, Control or Alt is held during this move.
     void PointerMoved(int x, int y, bool modifierDown);
     void PointerReleased(int x, int y, bool shiftDown);
     // The brush number: the number in the text of cboBrushSize.
-    int BrushNumber() const { return Form.BrushSizeIndex + 1; }
+    int BrushNumber() const { return m_form.BrushSizeIndex + 1; }
+    void ClearTools();
+    void ResetDrawState();
+    void SelectPaintTool() { ClickTool(tools::Tool::Paint); }
 
-    // --- Colors Panel -----------------------------------------------------------------------
+    // --- Colors Panel (session_colors.cpp) --------------------------------------------------
     // picColorChart(0) the 48 colors, (1) the sixteen named ones, (2) a fixed picture.
-    std::array<Surface, 3> picColorChart;
-    void CreateColorChart16();
-    void CreateColorChart256();
+    const Surface& ColorChart(int k) const { return m_charts[static_cast<std::size_t>(k)]; }
     void SwitchTo16ColorChart();   // imgGet16ColorChart
     void SwitchTo256ColorChart();  // imgGet256ColorChart
     void ClickPaletteSub(int index);
     void SetPaletteModeForIcon();
+    void RefreshPaletteMenu() { SetPaletteModeForIcon(); }
     // A pointer release on picColorChart(k) at (x, y) in its pixels.
     void ReleaseOnColorChart(int k, double x, double y);
     // The name of the 16-color entry under (x, y), empty elsewhere.
     std::string Chart16Tooltip(double x, double y) const;
-    void DoubleClickColorToUse() { Form.ColorDoubleClicked = true; }
+    void DoubleClickColorToUse() { m_form.ColorDoubleClicked = true; }
     void ReleaseOnColorToUse();
     void PopColorChart();
 
-    // --- Shades effects ---------------------------------------------------------------------
-    struct ShadesState {
-        std::string Caption;  // of fraEffectsShades
-        int EffectCode = 0;   // ShadeEffectCode
-        bool UseSelectedColorVisible = false;
-        bool UseSelectedColorChecked = false;
-        bool CastControlsVisible = false;
-        effects::CastControls Cast;
-        std::optional<effects::ShadesPreview> Preview;  // picEffectsSample(0..1)
-    } Shades;
-    effects::IconPlanes Planes() const;
+    // --- Shades effects (session_shades.cpp) ------------------------------------------------
     // mnuEffectsSub(1..7): the frame and its first preview.
     void ClickEffectsSub(int index);
-    void RunShadesPreview();
     void ClickUseSelectedColor(bool checked);
     void CastSliderChanged(int value);
     void CastComboClicked(int element, int listIndex);
     void ShadesProceed();   // cmdShadesProceed(0)
     void ShadesRestore();   // cmdShadesProceed(1)
 
-    // --- Status bar -----------------------------------------------------------------------
+    // --- Status bar (session_status.cpp) ----------------------------------------------------
+    // A fresh icon in the Editing Area: tools cleared, progress hidden, the status panels
+    // written, the grid rebuilt, the undo history begun with the icon as it stands.
     void RefreshStatusPanel();
+    // The four status panels from the open slot's record, and nothing else.
+    void WriteStatusPanels();
     void ClearStatusPanel();
     void SetInfoLabels(bool visible);
     void SetProgressVisible(bool visible);
     void ShowProgress(int percent, bool withNumber);
     void PointerOverForm();
 
-    // --- Icon files -------------------------------------------------------------------------
+    // --- Icon files (session_files.cpp) -----------------------------------------------------
     // Puts an icon file into the current slot; true if the slot was filled.
     bool LoadIconFile(const std::string& path, bool askForImage);
-    // File Open of an icon file: the dialog, then the load.
-    void OpenIconFile();
     bool SaveIconFile(const std::string& path, bool force256);
     // The save dialog of a kind (1 Save As, 2 forced to 256 colors, 3 cursor, 4 bitmap) and
     // the save; true if saved.
     bool SaveDialogFlow(int kind);
     std::string SuggestedSaveName() const;
-    void mnuFileSaveICO();
-    void mnuFileSaveAsICO();
-    void mnuFileSaveAsICOForce256();
-    bool CopyIncomingAlphaToSlot();
     // What a save of the current slot writes with: alpha and true color as the slot says.
     files::IconWriteOptions WriteOptions() const;
 
-    // --- Multi-icon files, cursors, bitmaps -------------------------------------------------
+    // --- Multi-icon files, cursors, bitmaps (session_multi_icon.cpp, session_cursor_bitmap.cpp)
     // frmVexloMultiIcon chooses an image of path; openIt puts it in the Editing Area, else it
     // goes to the panel only. False when cancelled or when the choice can't be used.
     bool ChooseImageOfFile(const std::string& path, bool openIt);
-    void mnuFileSaveMultiIconReplace();
-    void mnuFileSaveMultiIconAddTo();
-    // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
-    std::string AddToFileDialog(const std::string& path, int c, int bits);
     bool LoadCursorFile(const std::string& path);
-    void OpenCursorFile();
-    void mnuFileSaveAsCursor();
     bool SaveCursorTo(const std::string& path);
-    void OpenBitmapFile();  // BmpToIcon
-    void mnuFileSaveAsBitmap();
+    // cboCursorHotSpot(axis) set to index.
+    void ChooseHotspot(int axis, int index);
     bool SaveBitmapTo(const std::string& path);
 
-    // --- Commands -------------------------------------------------------------------------
+    // --- Commands (session_commands.cpp) ----------------------------------------------------
     // The facts that the enable rules of menus and toolbar read, as they stand now.
     RuleContext Rules();
     // Runs the menu item of that name as if the user had chosen it; false for a name that
@@ -257,36 +237,67 @@ public:
     // Says "No icon in Editing Area yet" and answers false when there is none.
     bool NeedsIconInArea();
 
-    // --- Undo and redo ----------------------------------------------------------------------
-    int UndoCount() const;
-    int RedoCount() const;
+    // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
+    int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
+    int RedoCount() const { return static_cast<int>(m_icon.RedoCount()); }
     void TakeUndoSnapshot();
-    void ClearUndoHistory();
+    void ClearUndoHistory() { m_icon.ClearHistory(); }
+    // An empty history, then the icon as it stands as its first entry.
+    void BeginUndoHistory();
     void UndoStep();
     void UndoAll();
     void RedoStep();
-    const tools::UndoHistory& Undo() const { return m_undo; }
 
-    // --- Calls into the parts that later work fills in --------------------------------------
-    void ClearTools();
-    void ResetDrawState();
-    void SelectPaintTool();
+private:
+    // The menu's file commands.
+    void OpenIconFile();
+    void OpenCursorFile();
+    void OpenBitmapFile();  // BmpToIcon
+    void mnuFileSaveICO();
+    void mnuFileSaveAsICO();
+    void mnuFileSaveAsICOForce256();
+    void mnuFileSaveMultiIconReplace();
+    void mnuFileSaveMultiIconAddTo();
+    void mnuFileSaveAsCursor();
+    void mnuFileSaveAsBitmap();
+    // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
+    std::string AddToFileDialog(const std::string& path, int c, int bits);
+    void ShowSetMessage(const std::string& text, MsgIcon icon);
+    // The pointer's plots (session_plots.cpp) and the shape band.
     void PlotPaintErase(bool erase);
     void PlotShape(tools::Tool tool);
     void PlotOval(bool filled);
     void DrawOvalBand();
-    void RefreshPaletteMenu();
+    void ShowRegionMeasure();
     void ResetRegionState();
-
-private:
-    void RestoreUndoEntry(const Surface& entry);
+    void CreateColorCharts();
+    void RunShadesPreview();
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
-    void StepHistory(bool (tools::UndoHistory::*move)(), std::size_t have, std::size_t needed);
-    void ShowSetMessage(const std::string& text, MsgIcon icon);
+    void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);
+    // Lets the platform run pending events (DoEvents), with Busy() true meanwhile.
+    void LetPendingEventsRun();
+    // Every entry from the window starts here: none may start while pending events run in
+    // the middle of another (checked in debug builds; the window drops such input).
+    void Enter() const;
 
     Host& m_host;
-    tools::UndoHistory m_undo;
+    EditedIcon m_icon;
+    IconsPanel m_panel;
+    EditingView m_view;
+    EffectsPanels m_effects;
+    AniSession m_ani;
+    IconsListSession m_list;
+    FormState m_form;
+    tools::DrawState m_draw;
+    std::array<Surface, 3> m_charts;
+    Color m_selectedColor = kWhite;
+    Directories m_dirs;
+    std::string m_currentPath;
+    bool m_formLoading = false;
+    bool m_firstActivation = true;
+    bool m_quitAtActivation = false;
+    int m_pendingEventsDepth = 0;
 };
 
 // The three lines of the refusal of a second instance.

@@ -12,14 +12,14 @@ RuleContext Session::Rules() {
     c.InArea = s.InEditingArea;
     c.UndoCount = UndoCount();
     c.RedoCount = RedoCount();
-    c.RegionSet = RegionExists;
+    c.RegionSet = m_view.Region().Exists;
     c.MultiIconFile = s.MultiIconFile;
     c.SizeCode = s.SizeCode;
     c.HasHotspot = s.HasHotspot;
-    c.ColorsPanelVisible = Form.VisibleFrame == Frame::ColorsPanel;
-    c.ColorChart0Visible = Form.ColorChart0Visible;
-    c.ColorMixerVisible = Form.ColorMixerVisible;
-    c.IconsListVisible = Form.VisibleFrame == Frame::IconsList;
+    c.ColorsPanelVisible = m_form.VisibleFrame == Frame::ColorsPanel;
+    c.ColorChart0Visible = m_form.ColorChart0Visible;
+    c.ColorMixerVisible = m_form.ColorMixerVisible;
+    c.IconsListVisible = m_form.VisibleFrame == Frame::IconsList;
     c.ClipboardBitmap = m_host.ClipboardHasBitmap();
     return c;
 }
@@ -29,7 +29,7 @@ void Session::RefreshToolbar() {
     const auto& buttons = ToolbarButtons();
     for (int k = 4; k < kToolbarCommands; ++k) {
         if (ToolbarButtonFixed(k)) continue;
-        Form.ToolbarEnabled[static_cast<std::size_t>(k)] =
+        m_form.ToolbarEnabled[static_cast<std::size_t>(k)] =
             RuleHolds(buttons[static_cast<std::size_t>(k)].Rule, c);
     }
 }
@@ -41,7 +41,7 @@ void Session::ClickToolbar(int k) {
 
 void Session::ClickBrushSize(int i) {
     if (i < 0 || i > 5) return;
-    Form.BrushSizeIndex = i;
+    m_form.BrushSizeIndex = i;
 }
 
 namespace {
@@ -76,9 +76,9 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsGridline", [](Session& s, int i) { s.ClickGridline(i); }},
         {"mnuOptionsDisplayMask", [](Session& s, int) { s.ClickDisplayMask(); }},
         {"mnuOptionsPromptToSave",
-         [](Session& s, int) { s.Form.PromptToSaveChecked = !s.Form.PromptToSaveChecked; }},
+         [](Session& s, int) { s.m_form.PromptToSaveChecked = !s.m_form.PromptToSaveChecked; }},
         {"mnuOptionsRemindIfBMP",
-         [](Session& s, int) { s.Form.RemindIfBmpChecked = !s.Form.RemindIfBmpChecked; }},
+         [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
         {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},

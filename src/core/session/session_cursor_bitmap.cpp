@@ -21,7 +21,7 @@ bool Session::LoadCursorFile(const std::string& path) {
     }
     ResetRegionState();
     ClearSlot();
-    picDisp.Clear();
+    m_view.Disp().Clear();
     IconSlot& s = Current();
     s.SizeCode = 2;
     SetPanelSize(2);
@@ -40,17 +40,11 @@ bool Session::LoadCursorFile(const std::string& path) {
     s.NeverSaved = false;
     s.Changed = false;
     EnsureAlphaArray();
-    files::DrawCursorFrame(cursor, picMask, 0, 0, files::CursorDraw::Mask);
-    files::DrawCursorFrame(cursor, picImage, 0, 0, files::CursorDraw::Image);
-    PicIcon.Clear();
-    files::DrawCursorFrame(cursor, PicIcon, 0, 0, files::CursorDraw::Normal);
-    // The panel shows the cursor as it is drawn, composed on the gray of the panel.
-    Surface& panelIcon = picPanelIcon[static_cast<std::size_t>(CurrentSlot)];
-    panelIcon.Clear();
-    files::DrawCursorFrame(cursor, panelIcon, 0, 0, files::CursorDraw::Normal);
-    Surface& panelMask = picPanelMask[static_cast<std::size_t>(CurrentSlot)];
-    panelMask.Clear();
-    surface::BitBlt(panelMask, 0, 0, 32, 32, picMask, 0, 0, surface::Rop::SrcCopy);
+    files::DrawCursorFrame(cursor, m_icon.Mask(), 0, 0, files::CursorDraw::Mask);
+    files::DrawCursorFrame(cursor, m_icon.Image(), 0, 0, files::CursorDraw::Image);
+    // Drawn as the cursor draws itself: its mask ANDed, its image XORed, on the gray.
+    ComposeIcon();
+    StoreToPanel();
     ShowIcon();
     return true;
 }
@@ -62,7 +56,7 @@ void Session::OpenCursorFile() {
     const std::string path = m_host.ShowOpen(request);
     if (path.empty()) return;
     if (LoadCursorFile(path)) {
-        CurrentPath = path;
+        m_currentPath = path;
         RefreshPaletteMenu();
     }
 }
@@ -80,11 +74,17 @@ void Session::mnuFileSaveAsCursor() {
         x = s.HotspotX;
         y = s.HotspotY;
     }
-    Form.CursorHotSpot = {x, y};
+    m_form.CursorHotSpot = {x, y};
+}
+
+void Session::ChooseHotspot(int axis, int index) {
+    Enter();
+    if (axis < 0 || axis > 1 || index < 0 || index > 31) return;
+    m_form.CursorHotSpot[static_cast<std::size_t>(axis)] = index;
 }
 
 bool Session::SaveCursorTo(const std::string& path) {
-    if (!files::WriteCursorFile(picImage, picMask, path, Form.CursorHotSpot[0], Form.CursorHotSpot[1])) {
+    if (!files::WriteCursorFile(m_icon.Image(), m_icon.Mask(), path, m_form.CursorHotSpot[0], m_form.CursorHotSpot[1])) {
         const bool protectedFile = files::IsProtectedFile(path);
         m_host.MsgBox(files::CursorSaveFailedMessage(path), MsgButtons::Ok,
                       protectedFile ? MsgIcon::Exclamation : MsgIcon::None, kTitle);
@@ -96,32 +96,32 @@ bool Session::SaveCursorTo(const std::string& path) {
 }
 
 void Session::OpenBitmapFile() {
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     utilities::OpenRequest request;
     request.Filter = "(bmp/gif/jpg)|*.bmp;*.gif;*.jpg|(wfm/emf)|*.wfm;*.emf|(*.*)|*.*|";
     request.DefaultExt = "bmp";
     const std::string path = m_host.ShowOpen(request);
     if (path.empty()) return;
-    picTemp.Clear();
-    picAuto.Clear();
-    if (!m_host.LoadPicture(path, picAuto)) {
+    m_icon.Temp().Clear();
+    m_icon.Auto().Clear();
+    if (!m_host.LoadPicture(path, m_icon.Auto())) {
         m_host.MsgBox(files::PictureNotLoadedMessage(path), MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
         return;
     }
-    if (!files::IsIconSize(picAuto) &&
-        m_host.MsgBox(files::NotIconSizeQuestion(picAuto.Width(), picAuto.Height()), MsgButtons::YesNo,
+    if (!files::IsIconSize(m_icon.Auto()) &&
+        m_host.MsgBox(files::NotIconSizeQuestion(m_icon.Auto().Width(), m_icon.Auto().Height()), MsgButtons::YesNo,
                       MsgIcon::Question, kTitle) != MsgAnswer::Yes) {
-        picAuto.Clear();
+        m_icon.Auto().Clear();
         return;
     }
-    const int t = files::ImportSide(picAuto.Width(), picAuto.Height());
+    const int t = files::ImportSide(m_icon.Auto().Width(), m_icon.Auto().Height());
     const int sizeCode = SizeCodeOfSide(t);
     IconSlot& s = Current();
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
     s.SizeCode = static_cast<std::int16_t>(sizeCode);
-    files::ImportPicture(picAuto, picImage, picMask);
-    const int c = files::CountColors(picImage);
+    files::ImportPicture(m_icon.Auto(), m_icon.Image(), m_icon.Mask());
+    const int c = files::CountColors(m_icon.Image());
     s.Occupied = true;
     s.SetKindText(kKindBmpFile);
     s.ColorCount = c;
@@ -132,20 +132,19 @@ void Session::OpenBitmapFile() {
     s.MultiIconFile = false;
     s.ClearFileState();
     EnsureAlphaArray();
-    picTemp.Clear();
+    m_icon.Temp().Clear();
     StoreToPanel();
     ComposeIcon();
     ShowIcon();
-    CurrentPath = path;
+    m_currentPath = path;
     RefreshPaletteMenu();
-    if (Form.RemindIfBmpChecked)
+    if (m_form.RemindIfBmpChecked)
         m_host.MsgBox(files::BitmapReminderMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
 }
 
 bool Session::SaveBitmapTo(const std::string& path) {
-    PicIcon.StorePicture();
     std::string error;
-    if (!files::WriteBmpFile(PicIcon, path, &error)) {
+    if (!files::WriteBmpFile(m_icon.Composed(), path, &error)) {
         const bool protectedFile = files::IsProtectedFile(path);
         m_host.MsgBox(protectedFile ? files::ReadOnlyFileMessage() : path + kCrLf + "Failed to save this bitmap",
                       MsgButtons::Ok, protectedFile ? MsgIcon::Exclamation : MsgIcon::None, kTitle);

@@ -1,49 +1,41 @@
 // The Editing Area as the session drives it: the magnified view, the grid and its options,
-// the Region outline, the bands and the readouts.
+// the Region's measure and the pointer's cell.
 #include "core/session/session.h"
 
 namespace vexlo::session {
 
 void Session::MagnifyIcon() {
-    tools::MagnifyInto(PicIcon, PicGrid, GridColor, picDisp);
-    if (RegionExists) DrawRegionOutline();
+    m_view.Magnify(m_icon.Composed(), Current().SizeCode);
+    if (m_view.Region().Exists) ShowRegionMeasure();
     m_host.RefreshDisplay();
     RefreshToolbar();
 }
 
 void Session::BuildGrid() {
-    if (!InArea()) return;
-    tools::BuildGrid(PicGrid, tools::ViewIconSide(PicIcon), MagnifyStep, GridColor);
+    if (InArea()) m_view.BuildGrid(m_icon.Composed());
 }
-
-void Session::OverlayGrid() {
-    tools::OverlayGrid(PicGrid, GridColor, tools::ViewIconSide(PicIcon), picDisp);
-}
-
-void Session::DrawRegionOutline() {
-    tools::DrawRegionOutline(picDisp, RegionRect, Current().SizeCode);
-    ShowRegionMeasure();
-}
-
-void Session::DrawLineBand() { tools::DrawLineBand(picDisp, Band); }
-
-void Session::DrawBoxBand() { tools::DrawBoxBand(picDisp, Band); }
 
 void Session::ShowRegionMeasure() {
-    Form.Status.RegionMeasure = tools::RegionMeasureText(RegionCells, RegionEdgeDragged);
+    const RegionMarks& r = m_view.Region();
+    m_form.Status.RegionMeasure = tools::RegionMeasureText(r.Cells, r.EdgeDragged);
+}
+
+void Session::ResetRegionState() {
+    m_view.ResetRegion();
+    m_draw.RegionReworked = false;
 }
 
 void Session::ClickGridline(int item) {
     if (item < 0 || item > 2) return;
-    const bool was = Form.GridlineChecked[static_cast<std::size_t>(item)];
-    Form.GridlineChecked = {false, false, false};
-    Form.GridlineChecked[static_cast<std::size_t>(item)] = !was;
+    const bool was = m_form.GridlineChecked[static_cast<std::size_t>(item)];
+    m_form.GridlineChecked = {false, false, false};
+    m_form.GridlineChecked[static_cast<std::size_t>(item)] = !was;
     static constexpr Color kColorOfItem[3] = {tools::kGridLight, tools::kGridDark,
                                               tools::kGridDotted};
-    GridColor = tools::kGridNone;
+    m_view.SetGridColor(tools::kGridNone);
     for (int i = 0; i < 3; ++i) {
-        if (Form.GridlineChecked[static_cast<std::size_t>(i)]) {
-            GridColor = kColorOfItem[i];
+        if (m_form.GridlineChecked[static_cast<std::size_t>(i)]) {
+            m_view.SetGridColor(kColorOfItem[i]);
             break;
         }
     }
@@ -53,15 +45,13 @@ void Session::ClickGridline(int item) {
     }
 }
 
-void Session::ClickDisplayMask() { Form.DisplayMaskChecked = !Form.DisplayMaskChecked; }
-
 void Session::PointerOverDisp(int x, int y) {
-    if (!Form.Status.InfoLabelsVisible) return;
-    const int side = tools::ViewIconSide(PicIcon);
-    const int c = x / MagnifyStep;
-    const int r = y / MagnifyStep;
+    if (!m_form.Status.InfoLabelsVisible) return;
+    const int side = tools::ViewIconSide(m_icon.Composed());
+    const int c = m_view.CellOf(x);
+    const int r = m_view.CellOf(y);
     const bool inside = InArea() && x >= 0 && y >= 0 && c < side && r < side;
-    Form.Status.DispXY = inside ? tools::DispXYText(c, r) : std::string();
+    m_form.Status.DispXY = inside ? tools::DispXYText(c, r) : std::string();
 }
 
 }  // namespace vexlo::session

@@ -21,17 +21,6 @@ std::string UpperCase(std::string s) {
 
 }  // namespace
 
-bool Session::CopyIncomingAlphaToSlot() {
-    const int side = IconSideOf(Current().SizeCode);
-    AlphaArray& slot = SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
-    if (side == 0 || IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != side - 1 ||
-        slot.IsSingle() || slot.UpperBound() != side - 1)
-        return false;
-    for (int x = 0; x < side; ++x)
-        for (int y = 0; y < side; ++y) slot.At(x, y) = IncomingAlpha.At(x, y);
-    return true;
-}
-
 bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     const files::ProbeAnswer probe = files::ProbeIconFile(path, true);
     if (probe.Kind == 0) {
@@ -52,21 +41,23 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     }
     ResetRegionState();
     ClearSlot();
-    picDisp.Clear();
+    m_view.Disp().Clear();
     Current().SizeCode = static_cast<std::int16_t>(sizeCode);
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
 
-    m_host.SetHourglass(true);
-    const bool read = files::ReadIconFileToImage(path, probe.Index, picImage, picMask, IncomingAlpha);
+    bool read = false;
+    {
+        host::Hourglass hourglass(m_host);
+        read = files::ReadIconFileToImage(path, probe.Index, m_icon.Image(), m_icon.Mask(),
+                                          m_panel.IncomingAlpha());
+    }
     if (!read) {
-        picImage.Clear();
-        picMask.Clear();
-        m_host.SetHourglass(false);
+        m_icon.Image().Clear();
+        m_icon.Mask().Clear();
         m_host.MsgBox(files::FailedToLoadMessage(path), MsgButtons::Ok, MsgIcon::None, kTitle);
         return false;
     }
-    m_host.SetHourglass(false);
     StoreToPanel();
     ComposeIcon();
 
@@ -79,7 +70,7 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     s.Occupied = true;
     s.SetKindText(kKindIcoFile);
     s.ColorCount = probe.Colors;
-    if (bits == 32 && (IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != w - 1)) bits = 24;
+    if (bits == 32 && (m_panel.IncomingAlpha().IsSingle() || m_panel.IncomingAlpha().UpperBound() != w - 1)) bits = 24;
     s.BitsPerPixel = static_cast<std::int16_t>(bits);
     s.HasAlpha = bits == 32;
     s.InEditingArea = true;
@@ -102,7 +93,7 @@ void Session::OpenIconFile() {
     const std::string path = m_host.ShowOpen(request);
     if (path.empty()) return;
     if (LoadIconFile(path, true)) {
-        CurrentPath = path;
+        m_currentPath = path;
         RefreshPaletteMenu();
     }
 }
@@ -112,7 +103,7 @@ files::IconWriteOptions Session::WriteOptions() const {
     files::IconWriteOptions options;
     options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
     options.KeepTrueColor = s.ColorCount == -1 && s.HasAlpha;
-    options.AlphaValues = &SlotAlpha[static_cast<std::size_t>(CurrentSlot)];
+    options.AlphaValues = &m_panel.SlotAlpha();
     return options;
 }
 
@@ -120,13 +111,13 @@ bool Session::SaveIconFile(const std::string& path, bool force256) {
     IconSlot& s = Current();
     files::IconWriteOptions options = WriteOptions();
     options.Force256 = force256;
-    if (!files::WriteIconFile(picImage, picMask, path, options)) {
+    if (!files::WriteIconFile(m_icon.Image(), m_icon.Mask(), path, options)) {
         const bool protectedFile = files::IsProtectedFile(path);
         m_host.MsgBox(files::SaveFailedMessage(path), MsgButtons::Ok,
                       protectedFile ? MsgIcon::Exclamation : MsgIcon::None, kTitle);
         return false;
     }
-    const int count = files::CountColors(picImage);
+    const int count = files::CountColors(m_icon.Image());
     s.FileSpec = path;
     s.SetKindText(kKindIcoFile);
     if (count != -1) s.ColorCount = count;
@@ -151,7 +142,7 @@ std::string Session::SuggestedSaveName() const {
 }
 
 bool Session::SaveDialogFlow(int kind) {
-    if (Form.VisibleFrame != Frame::ColorsPanel && !Form.AniContainerVisible)
+    if (m_form.VisibleFrame != Frame::ColorsPanel && !m_ani.ContainerVisible())
         ShowFrame(Frame::ColorsPanel);
     ResetRegionState();
     if ((kind == 1 || kind == 2) && Current().MultiIconFile)
@@ -165,7 +156,7 @@ bool Session::SaveDialogFlow(int kind) {
     }
     const std::string path = m_host.ShowSave(request);
     if (path.empty()) return false;
-    CurrentPath = path;
+    m_currentPath = path;
     bool saved = false;
     if (kind == 1) saved = SaveIconFile(path, false);
     if (kind == 2) saved = SaveIconFile(path, true);
@@ -194,7 +185,7 @@ void Session::mnuFileSaveAsICO() {
 
 void Session::mnuFileSaveAsICOForce256() {
     if (!NeedsIconInArea()) return;
-    if (files::CountColors(picImage) == -1) {
+    if (files::CountColors(m_icon.Image()) == -1) {
         m_host.MsgBox(files::CannotForce256Message(), MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }

@@ -1,5 +1,6 @@
 // How the session begins and ends: the load of the window, the first activation with its
 // command line, the exit question, and the common error box.
+#include <cassert>
 #include <filesystem>
 #include <system_error>
 
@@ -53,38 +54,32 @@ WindowPos PlaceWindow(int screenWidth, int screenHeight, int windowWidth, int wi
 }
 
 bool Session::Load(int screenWidth, int screenHeight) {
-    FirstActivation = true;
-    FormLoading = true;
-    QuitAtActivation = false;
-    Form.Status.ProgressVisible = false;
+    m_firstActivation = true;
+    m_formLoading = true;
+    m_quitAtActivation = false;
+    m_form.Status.ProgressVisible = false;
     if (screenWidth < 800 || screenHeight < 600) {
         if (m_host.MsgBox(SmallScreenQuestion(screenWidth, screenHeight), MsgButtons::YesNo,
                           MsgIcon::Question, kTitle) == MsgAnswer::No) {
-            QuitAtActivation = true;
+            m_quitAtActivation = true;
             return false;
         }
     }
     // Every Surface starts at 32x32, picDisp at its fixed size.
-    MagnifyStep = 12;
-    Form.ColorChart0Visible = true;
-    Form.GridlineChecked = {false, false, false};
-    Form.DisplayMaskChecked = true;
-    Form.PromptToSaveChecked = false;
-    Form.RemindIfBmpChecked = true;
+    m_view.SetMagnifyStep(12);
+    m_form.ColorChart0Visible = true;
+    m_form.GridlineChecked = {false, false, false};
+    m_form.DisplayMaskChecked = true;
+    m_form.PromptToSaveChecked = false;
+    m_form.RemindIfBmpChecked = true;
     ClearSlot();
-    for (int i = 0; i < kSlotCount; ++i)
-        Slots[static_cast<std::size_t>(i)].SlotIndex = static_cast<std::int16_t>(i);
-    PicIcon.SetBackColor(kTransparentGray);
-    picDisp.SetBackColor(kTransparentGray);
-    Form.GridlineChecked[0] = true;
-    GridColor = tools::kGridLight;
-    CreateColorChart16();
-    CreateColorChart256();
+    m_form.GridlineChecked[0] = true;
+    m_view.SetGridColor(tools::kGridLight);
+    CreateColorCharts();
     ClearStatusPanel();
-    SetInfoLabels(Form.Status.InfoLabelsVisible);
-    IncomingAlpha.SetSingle();
-    for (AlphaArray& a : SlotAlpha) a.SetSingle();
-    FormLoading = false;
+    SetInfoLabels(m_form.Status.InfoLabelsVisible);
+    m_panel.ResetAlpha();
+    m_formLoading = false;
     return true;
 }
 
@@ -94,25 +89,25 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
     RefreshToolbar();
     ShowFrame(Frame::ColorsPanel);
     SwitchTo16ColorChart();
-    CurrentSlot = 0;
-    CurrentPath.clear();
+    m_panel.Select(0);
+    m_currentPath.clear();
     MarkCurrentLabel(0);
-    m_host.DoEvents();
+    LetPendingEventsRun();
 
     CommandLineResult result = CommandLineResult::Empty;
     if (!commandLine.empty()) {
-        CurrentPath = CommandLinePath(commandLine);
+        m_currentPath = CommandLinePath(commandLine);
         std::error_code ec;
-        if (std::filesystem::exists(CurrentPath, ec)) {
-            const std::string ext = UpperExtension3(CurrentPath);
+        if (std::filesystem::exists(m_currentPath, ec)) {
+            const std::string ext = UpperExtension3(m_currentPath);
             result = CommandLineResult::Ignored;
             if (ext == "ICO") {
-                const bool loaded = LoadIconFile(CurrentPath, false);
+                const bool loaded = LoadIconFile(m_currentPath, false);
                 result = loaded ? CommandLineResult::Loaded : CommandLineResult::LoadFailed;
                 RefreshPaletteMenu();
                 if (keepWorkingDir) *keepWorkingDir = loaded;
             } else if (ext == "CUR") {
-                const bool loaded = LoadCursorFile(CurrentPath);
+                const bool loaded = LoadCursorFile(m_currentPath);
                 result = loaded ? CommandLineResult::Loaded : CommandLineResult::LoadFailed;
                 RefreshPaletteMenu();
                 if (keepWorkingDir) *keepWorkingDir = loaded;
@@ -121,11 +116,11 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
                 result = CommandLineResult::LoadFailed;
             }
         } else {
-            m_host.MsgBox(CurrentPath + " not found", MsgButtons::Ok, MsgIcon::None, kTitle);
+            m_host.MsgBox(m_currentPath + " not found", MsgButtons::Ok, MsgIcon::None, kTitle);
             result = CommandLineResult::NotFound;
         }
     }
-    FirstActivation = false;
+    m_firstActivation = false;
     return result;
 }
 
@@ -133,7 +128,7 @@ std::string Session::UnsavedSlotsQuestion() const {
     std::string list;
     int count = 0;
     for (int i = 0; i < kSlotCount; ++i) {
-        const IconSlot& s = Slots[static_cast<std::size_t>(i)];
+        const IconSlot& s = m_panel.Slot(i);
         if (s.Occupied && (s.Changed || s.NeverSaved)) {
             list += "Icon Seq " + std::to_string(i + 1) + "    " + s.FileSpec + kCrLf;
             ++count;
@@ -154,6 +149,16 @@ bool Session::QueryExit() {
 void Session::ReportError(const std::string& label, long number, const std::string& description) {
     m_host.MsgBox(label + kCrLf + std::to_string(number) + "     " + description, MsgButtons::Ok,
                   MsgIcon::None, kTitle);
+}
+
+void Session::LetPendingEventsRun() {
+    ++m_pendingEventsDepth;
+    m_host.DoEvents();
+    --m_pendingEventsDepth;
+}
+
+void Session::Enter() const {
+    assert(m_pendingEventsDepth == 0 && "an operation started while another let pending events run");
 }
 
 }  // namespace vexlo::session

@@ -50,16 +50,16 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     const int size = NumberOf(sizeText);
     const int colors = f.size() > 2 ? NumberOf(f[2]) : 0;
     int bits = f.size() > 3 ? NumberOf(f[3]) : 0;
-    picImageTemp = std::move(answer.Image);
-    picMaskTemp = std::move(answer.Mask);
-    if (!answer.Alpha.IsSingle()) IncomingAlpha = std::move(answer.Alpha);
+    m_icon.ImageTemp() = std::move(answer.Image);
+    m_icon.MaskTemp() = std::move(answer.Mask);
+    if (!answer.Alpha.IsSingle()) m_panel.IncomingAlpha() = std::move(answer.Alpha);
 
     const int sizeCode = SizeCodeOfSide(size);
     IconSlot& s = Current();
     s.SizeCode = static_cast<std::int16_t>(sizeCode);
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
-    if (bits == 32 && (IncomingAlpha.IsSingle() || IncomingAlpha.UpperBound() != size - 1)) bits = 24;
+    if (bits == 32 && (m_panel.IncomingAlpha().IsSingle() || m_panel.IncomingAlpha().UpperBound() != size - 1)) bits = 24;
     s.Occupied = true;
     s.SetKindText(kKindIcoFile);
     s.ColorCount = colors;
@@ -72,30 +72,25 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     if (EnsureAlphaArray() && s.HasAlpha) CopyIncomingAlphaToSlot();
     if (openIt) {
         s.InEditingArea = true;
-        tools::CopyPicture(picImageTemp, picImage);
-        tools::CopyPicture(picMaskTemp, picMask);
+        tools::CopyPicture(m_icon.ImageTemp(), m_icon.Image());
+        tools::CopyPicture(m_icon.MaskTemp(), m_icon.Mask());
         StoreToPanel();
         ComposeIcon();
         ShowIcon();
     } else {
         s.InEditingArea = false;
-        Surface& icon = picPanelIcon[static_cast<std::size_t>(CurrentSlot)];
-        icon.Clear();
-        surface::BitBlt(icon, 0, 0, size, size, picMaskTemp, 0, 0, surface::Rop::SrcAnd);
-        surface::BitBlt(icon, 0, 0, size, size, picImageTemp, 0, 0, surface::Rop::SrcInvert);
-        surface::BitBlt(picPanelMask[static_cast<std::size_t>(CurrentSlot)], 0, 0, size, size,
-                        picMaskTemp, 0, 0, surface::Rop::SrcCopy);
+        m_panel.StoreToPanel(m_icon.ImageTemp(), m_icon.MaskTemp());
     }
     return true;
 }
 
 void Session::mnuFileSaveMultiIconReplace() {
     if (!NeedsIconInArea() || !Current().MultiIconFile) return;
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     const IconSlot& s = Current();
     const std::string path = s.FileSpec;
-    const files::SetResult check = files::CheckReplaceTarget(path, s.MultiIconIndex, PicIcon.Width(),
-                                                             PicIcon.Height(), s.ColorCount, s.BitsPerPixel);
+    const files::SetResult check = files::CheckReplaceTarget(path, s.MultiIconIndex, m_icon.Composed().Width(),
+                                                             m_icon.Composed().Height(), s.ColorCount, s.BitsPerPixel);
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
@@ -107,9 +102,9 @@ void Session::mnuFileSaveMultiIconReplace() {
     request.DefaultExt = "ico";
     const std::string target = m_host.ShowSave(request);
     if (target.empty()) return;
-    CurrentPath = target;
-    const files::SetResult done = files::ReplaceIconInFile(picImage, picMask, WriteOptions(), path,
-                                                           s.MultiIconIndex, target, Dirs.TempDir);
+    m_currentPath = target;
+    const files::SetResult done = files::ReplaceIconInFile(m_icon.Image(), m_icon.Mask(), WriteOptions(), path,
+                                                           s.MultiIconIndex, target, m_dirs.TempDir);
     if (!done) {
         ShowSetMessage(done.Message, MsgIcon::None);
         return;
@@ -123,7 +118,7 @@ void Session::mnuFileSaveMultiIconReplace() {
 
 void Session::mnuFileSaveMultiIconAddTo() {
     if (!NeedsIconInArea() || Current().MultiIconFile) return;
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     utilities::OpenRequest request;
     request.Filter = "Icon files (*.ico)|*.ico|";
     request.DefaultExt = "ico";
@@ -133,24 +128,24 @@ void Session::mnuFileSaveMultiIconAddTo() {
         ShowSetMessage(files::kCannotAddToItself, MsgIcon::None);
         return;
     }
-    const int c = Current().ColorCount == -1 ? -1 : files::CountColors(picImage);
+    const int c = Current().ColorCount == -1 ? -1 : files::CountColors(m_icon.Image());
     const int bits = Current().BitsPerPixel;
-    const files::SetResult check = files::CheckAddTarget(path, PicIcon.Width(), PicIcon.Height(), c, bits);
+    const files::SetResult check = files::CheckAddTarget(path, m_icon.Composed().Width(), m_icon.Composed().Height(), c, bits);
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
     }
     const std::string added = AddToFileDialog(path, c, bits);
     if (added.empty()) return;
-    CurrentPath = added;
+    m_currentPath = added;
     Current().Changed = false;
     RefreshPaletteMenu();
 }
 
 std::string Session::AddToFileDialog(const std::string& path, int c, int bits) {
     const std::string description =
-        files::AddIconDescription(c, bits, PicIcon.Width(), PicIcon.Height());
-    MultiIconAnswer answer = m_host.ShowMultiIcon(path, 1, &PicIcon, description);
+        files::AddIconDescription(c, bits, m_icon.Composed().Width(), m_icon.Composed().Height());
+    MultiIconAnswer answer = m_host.ShowMultiIcon(path, 1, &m_icon.Composed(), description);
     std::string target = path;
     if (answer.Choice == "2") {
         for (;;) {
@@ -167,12 +162,12 @@ std::string Session::AddToFileDialog(const std::string& path, int c, int bits) {
             ShowSetMessage(files::FailedToOpenMessage(target), MsgIcon::None);
             return {};
         }
-        m_host.DoEvents();
+        LetPendingEventsRun();
     } else if (answer.Choice != "1") {
         return {};
     }
     const files::SetResult done =
-        files::AppendIconToFile(picImage, picMask, target, c, bits, WriteOptions(), Dirs.TempDir);
+        files::AppendIconToFile(m_icon.Image(), m_icon.Mask(), target, c, bits, WriteOptions(), m_dirs.TempDir);
     if (!done) {
         ShowSetMessage(done.Message, MsgIcon::None);
         return {};

@@ -4,44 +4,33 @@
 
 namespace vexlo::session {
 
-namespace {
-
-struct Hourglass {
-    explicit Hourglass(Host& host) : m_host(host) { m_host.SetHourglass(true); }
-    ~Hourglass() { m_host.SetHourglass(false); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-    Host& m_host;
-};
-
-}  // namespace
-
 void Session::ShowFrame(Frame frame) {
-    Hourglass hourglass(m_host);
-    if (Form.VisibleFrame == Frame::IconsList) {
+    host::Hourglass hourglass(m_host);
+    if (m_form.VisibleFrame == Frame::IconsList) {
         if (frame != Frame::IconsList) {
             UnparkIcon();
-            // The list session's loaded items and its picture are emptied with it.
+            m_list.Reset();
         }
-    } else if (Form.AniContainerVisible) {
-        Form.AniContainerVisible = false;
-        Form.Status.Panel[0] = Current().FileSpec;
+    } else if (m_ani.ContainerVisible()) {
+        m_ani.Close();
+        m_form.Status.Panel[0] = Current().FileSpec;
     }
-    Form.VisibleFrame = Frame::None;
+    m_form.VisibleFrame = Frame::None;
     ClearTools();
-    Shades.Preview.reset();  // leaving the frame by any way discards the preview
-    Form.VisibleFrame = frame;
-    Form.Status.InfoLabelsVisible = frame == Frame::ColorsPanel;
+    m_effects.DiscardPreviews();
+    m_form.VisibleFrame = frame;
+    m_form.Status.InfoLabelsVisible = frame == Frame::ColorsPanel;
     if (frame == Frame::IconsList) {
         ParkIcon();
-        Form.Status.Panel[0] = "[Successive Loading Session]";
+        m_form.Status.Panel[0] = "[Successive Loading Session]";
     }
     RefreshToolbar();
 }
 
 void Session::CancelFrame() {
+    Enter();
     ShowFrame(Frame::ColorsPanel);
-    m_host.DoEvents();
+    LetPendingEventsRun();
     if (InArea()) RefreshPaletteMenu();
 }
 
@@ -61,35 +50,36 @@ bool Session::GuardReplaceCurrent() {
 }
 
 void Session::ClickPanel(int k) {
+    Enter();
     if (k < 0 || k >= kSlotCount) return;
     IconSlot& s = Current();
     if (s.InEditingArea && s.Changed) {
-        if (Form.PromptToSaveChecked && !AskSaveCurrent()) return;
+        if (m_form.PromptToSaveChecked && !AskSaveCurrent()) return;
         StoreToPanel();
-        ClearUndoHistory();
-        TakeUndoSnapshot();
+        BeginUndoHistory();
         RefreshToolbar();
     }
-    if (k == CurrentSlot) return;
-    CurrentSlot = k;
+    if (k == CurrentSlot()) return;
+    m_panel.Select(k);
     MarkCurrentLabel(k);
-    if (Form.VisibleFrame == Frame::IconsList) return;
+    if (m_form.VisibleFrame == Frame::IconsList) return;
 
-    Hourglass hourglass(m_host);
+    host::Hourglass hourglass(m_host);
     if (!Current().Occupied)
         OpenEmptySlot();
     else
         RebuildFromPanel();
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     RefreshPaletteMenu();
     RefreshToolbar();
-    m_host.DoEvents();
+    LetPendingEventsRun();
 }
 
 void Session::DoubleClickPanel(int k) {
-    if (Form.VisibleFrame != Frame::IconsList) return;
+    Enter();
+    if (m_form.VisibleFrame != Frame::IconsList) return;
     ShowFrame(Frame::ColorsPanel);
-    m_host.DoEvents();
+    LetPendingEventsRun();
     ClickPanel(k);
     RefreshPaletteMenu();
 }
@@ -97,16 +87,16 @@ void Session::DoubleClickPanel(int k) {
 void Session::FileNew(int entry) {
     static constexpr int kSizeOfEntry[3] = {2, 1, 3};
     if (entry < 0 || entry > 2) return;
-    if (Form.VisibleFrame != Frame::ColorsPanel) {
+    if (m_form.VisibleFrame != Frame::ColorsPanel) {
         bool aniStays = false;
-        if (Form.AniContainerVisible) {
+        if (m_ani.ContainerVisible()) {
             if (entry != 0) {
                 const std::string q = std::string("Animated cursor session for 32x32 icons only") +
                                       kCrLf + "Terminate animated cursor session?" + kCrLf;
                 if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) ==
                     MsgAnswer::No)
                     return;
-                Form.AniContainerVisible = false;
+                m_ani.Close();
             } else {
                 aniStays = true;
             }
@@ -131,8 +121,7 @@ void Session::FileNew(int entry) {
     s.SizeCode = static_cast<std::int16_t>(sizeCode);
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
-    picImage.Fill(kBlack);
-    picMask.Fill(kWhite);
+    m_icon.FillTransparent();
 
     StoreToPanel();
     ComposeIcon();
@@ -143,14 +132,14 @@ void Session::FileNew(int entry) {
 void Session::FileOpen(int entry) {
     if (entry < 0 || entry > 3) return;
     if (entry != 1) {
-        if (Form.VisibleFrame != Frame::ColorsPanel && !Form.AniContainerVisible)
+        if (m_form.VisibleFrame != Frame::ColorsPanel && !m_ani.ContainerVisible())
             ShowFrame(Frame::ColorsPanel);
-    } else if (Form.AniContainerVisible) {
+    } else if (m_ani.ContainerVisible()) {
         const std::string q = std::string("Terminate animated cursor session?") + kCrLf;
         if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::No)
             return;
-        Form.AniContainerVisible = false;
-    } else if (Form.VisibleFrame == Frame::IconsList) {
+        m_ani.Close();
+    } else if (m_form.VisibleFrame == Frame::IconsList) {
         m_host.MsgBox(std::string("You are already in \"List All Icons in Folder\" session.") +
                           kCrLf + "There are command buttons there.",
                       MsgButtons::Ok, MsgIcon::None, kTitle);

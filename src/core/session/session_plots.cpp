@@ -9,109 +9,109 @@ namespace vexlo::session {
 using tools::Tool;
 
 void Session::PlotPaintErase(bool erase) {
-    const Color ci = erase ? kBlack : SelectedColor;
+    const Color ci = erase ? kBlack : m_selectedColor;
     const Color cm = erase ? kWhite : kBlack;
-    const int w = picImage.Width();
-    const int h = picImage.Height();
-    const int c = Draw.CellX;
-    const int r = Draw.CellY;
-    const int n = Form.BrushSizeIndex;
+    const int w = m_icon.Image().Width();
+    const int h = m_icon.Image().Height();
+    const int c = m_draw.CellX;
+    const int r = m_draw.CellY;
+    const int n = m_form.BrushSizeIndex;
     if (n == 0) {
-        picImage.SetPixelV(c, r, ci);
-        picMask.SetPixelV(c, r, cm);
+        m_icon.Image().SetPixelV(c, r, ci);
+        m_icon.Mask().SetPixelV(c, r, cm);
         return;
     }
-    Draw.Shape.Left = c;
-    Draw.Shape.Top = r;
-    Draw.Shape.Right = std::min(c + n, w - 1);
-    Draw.Shape.Bottom = std::min(r + n, h - 1);
-    picImage.FillBox(c, r, Draw.Shape.Right, Draw.Shape.Bottom, ci);
-    picMask.FillBox(c, r, Draw.Shape.Right, Draw.Shape.Bottom, cm);
+    m_draw.Shape.Left = c;
+    m_draw.Shape.Top = r;
+    m_draw.Shape.Right = std::min(c + n, w - 1);
+    m_draw.Shape.Bottom = std::min(r + n, h - 1);
+    m_icon.Image().FillBox(c, r, m_draw.Shape.Right, m_draw.Shape.Bottom, ci);
+    m_icon.Mask().FillBox(c, r, m_draw.Shape.Right, m_draw.Shape.Bottom, cm);
 }
 
 void Session::PlotShape(Tool t) {
-    picDisp.DrawMode = surface::kDrawModeCopyPen;
-    picDisp.DrawStyle = surface::kDrawStyleSolid;
-    const int notedWidth = picImage.DrawWidth;
+    m_view.Disp().DrawMode = surface::kDrawModeCopyPen;
+    m_view.Disp().DrawStyle = surface::kDrawStyleSolid;
+    const int notedWidth = m_icon.Image().DrawWidth;
     const int width = t == Tool::BrokenLine ? 1 : BrushNumber();
-    picImage.DrawWidth = width;
-    picMask.DrawWidth = width;
-    const tools::CellRect& r = Draw.Shape;
+    m_icon.Image().DrawWidth = width;
+    m_icon.Mask().DrawWidth = width;
+    const tools::CellRect& r = m_draw.Shape;
     switch (t) {
         case Tool::Line:
-            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
+            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
             if (BrushNumber() == 1) {
                 // The pen leaves out the end point; a one-pixel line gets it.
-                picImage.SetPixelV(r.Right, r.Bottom, SelectedColor);
-                picMask.SetPixelV(r.Right, r.Bottom, kBlack);
+                m_icon.Image().SetPixelV(r.Right, r.Bottom, m_selectedColor);
+                m_icon.Mask().SetPixelV(r.Right, r.Bottom, kBlack);
             }
             break;
         case Tool::BrokenLine:
-            picImage.DrawStyle = surface::kDrawStyleDot;
-            picMask.DrawStyle = surface::kDrawStyleDot;
-            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            m_icon.Image().DrawStyle = surface::kDrawStyleDot;
+            m_icon.Mask().DrawStyle = surface::kDrawStyleDot;
+            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
+            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
             break;
         case Tool::Rectangle:
-            picImage.FillStyle = surface::kFillStyleTransparent;
-            picMask.FillStyle = surface::kFillStyleTransparent;
-            picImage.FillColor = SelectedColor;
-            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            m_icon.Image().FillStyle = surface::kFillStyleTransparent;
+            m_icon.Mask().FillStyle = surface::kFillStyleTransparent;
+            m_icon.Image().FillColor = m_selectedColor;
+            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
+            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, m_icon.Mask().ForeColor);
             break;
         case Tool::FilledRectangle:
-            picImage.FillStyle = surface::kFillStyleSolid;
-            picMask.FillStyle = surface::kFillStyleSolid;
-            picImage.FillColor = SelectedColor;
+            m_icon.Image().FillStyle = surface::kFillStyleSolid;
+            m_icon.Mask().FillStyle = surface::kFillStyleSolid;
+            m_icon.Image().FillColor = m_selectedColor;
             // The filled box in the selected color takes the same pen as the mask's box, so
             // that a wide brush covers the same pixels in both planes.
-            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
+            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, m_icon.Mask().ForeColor);
             break;
         case Tool::Oval:
         case Tool::FilledOval:
             PlotOval(t == Tool::FilledOval);
             break;
         case Tool::Spotlight:
-            tools::PlotSpotlight(picImage, picMask, PicIcon, picTemp, picImageTemp, Draw, SelectedColor,
-                                 [this] { m_host.DoEvents(); });
+            tools::PlotSpotlight(m_icon.Image(), m_icon.Mask(), m_icon.Composed(), m_icon.Temp(), m_icon.ImageTemp(), m_draw, m_selectedColor,
+                                 [this] { LetPendingEventsRun(); });
             break;
         default:
             break;
     }
-    picImage.DrawWidth = notedWidth;
-    picMask.DrawWidth = notedWidth;
-    picImage.DrawStyle = surface::kDrawStyleSolid;
-    picMask.DrawStyle = surface::kDrawStyleSolid;
+    m_icon.Image().DrawWidth = notedWidth;
+    m_icon.Mask().DrawWidth = notedWidth;
+    m_icon.Image().DrawStyle = surface::kDrawStyleSolid;
+    m_icon.Mask().DrawStyle = surface::kDrawStyleSolid;
 }
 
 void Session::PlotOval(bool filled) {
-    const tools::CellRect& r = Draw.Shape;
-    const int width = tools::ShapeGeometry(r.Left, r.Top, r.Right, r.Bottom, Draw);
-    m_host.DoEvents();
+    const tools::CellRect& r = m_draw.Shape;
+    const int width = tools::ShapeGeometry(r.Left, r.Top, r.Right, r.Bottom, m_draw);
+    LetPendingEventsRun();
     if (width <= 0) return;
-    for (Surface* plane : {&picImage, &picMask}) plane->DrawMode = surface::kDrawModeCopyPen;
-    picImage.FillColor = SelectedColor;
-    picMask.FillColor = kBlack;
-    const double cx = Draw.OvalCenterX, cy = Draw.OvalCenterY, radius = Draw.OvalRadius;
-    const double aspect = Draw.OvalAspect;
+    for (Surface* plane : {&m_icon.Image(), &m_icon.Mask()}) plane->DrawMode = surface::kDrawModeCopyPen;
+    m_icon.Image().FillColor = m_selectedColor;
+    m_icon.Mask().FillColor = kBlack;
+    const double cx = m_draw.OvalCenterX, cy = m_draw.OvalCenterY, radius = m_draw.OvalRadius;
+    const double aspect = m_draw.OvalAspect;
     if (!filled) {
-        picImage.FillStyle = surface::kFillStyleTransparent;
-        picMask.FillStyle = surface::kFillStyleTransparent;
+        m_icon.Image().FillStyle = surface::kFillStyleTransparent;
+        m_icon.Mask().FillStyle = surface::kFillStyleTransparent;
         // Two arcs close the ellipse; 6 is the whole number that 2 pi rounds to.
-        picImage.CircleArc(cx, cy, radius, SelectedColor, 0, 6, aspect);
-        picMask.CircleArc(cx, cy, radius, kBlack, 0, 6, aspect);
-        picImage.CircleArc(cx, cy, radius, SelectedColor, 6, 0, aspect);
-        picMask.CircleArc(cx, cy, radius, kBlack, 6, 0, aspect);
+        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 0, 6, aspect);
+        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 0, 6, aspect);
+        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 6, 0, aspect);
+        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 6, 0, aspect);
         return;
     }
-    picImage.FillStyle = surface::kFillStyleSolid;
-    picMask.FillStyle = surface::kFillStyleSolid;
-    picImage.DrawWidth = 2;
-    picMask.DrawWidth = 2;
-    picImage.Circle(cx, cy, radius, SelectedColor, aspect);
-    picMask.Circle(cx, cy, radius, kBlack, aspect);
+    m_icon.Image().FillStyle = surface::kFillStyleSolid;
+    m_icon.Mask().FillStyle = surface::kFillStyleSolid;
+    m_icon.Image().DrawWidth = 2;
+    m_icon.Mask().DrawWidth = 2;
+    m_icon.Image().Circle(cx, cy, radius, m_selectedColor, aspect);
+    m_icon.Mask().Circle(cx, cy, radius, kBlack, aspect);
 }
 
 }  // namespace vexlo::session

@@ -10,28 +10,28 @@ using tools::Tool;
 
 void Session::PointerPressed(Button button, int x, int y) {
     if (button != Button::Left || !InArea() || !AnyToolSelected()) return;
-    if (x < 0 || y < 0 || !InsideIcon(x, y)) return;
-    Draw.CellX = x / MagnifyStep;
-    Draw.CellY = y / MagnifyStep;
-    const Tool t = Form.SelectedTool;
+    if (x < 0 || y < 0 || !m_view.InsideIcon(x, y, Current().SizeCode)) return;
+    m_draw.CellX = x / m_view.MagnifyStep();
+    m_draw.CellY = y / m_view.MagnifyStep();
+    const Tool t = m_form.SelectedTool;
     if (t == Tool::Paint || t == Tool::Erase) {
         Current().Changed = true;
-        (t == Tool::Paint ? Draw.PaintDragging : Draw.EraseDragging) = true;
-        Draw.Shape = {Draw.CellX, Draw.CellY, Draw.CellX, Draw.CellY};
+        (t == Tool::Paint ? m_draw.PaintDragging : m_draw.EraseDragging) = true;
+        m_draw.Shape = {m_draw.CellX, m_draw.CellY, m_draw.CellX, m_draw.CellY};
         PlotPaintErase(t == Tool::Erase);
         ComposeIcon();
         MagnifyIcon();
     } else if (tools::IsShapeTool(t)) {
-        Draw.SnapX = tools::SnapCoordinate(x, MagnifyStep, 1);
-        Draw.SnapY = tools::SnapCoordinate(y, MagnifyStep, 1);
-        Draw.PaintDragging = true;
-        Draw.Shape = {Draw.CellX, Draw.CellY, Draw.CellX, Draw.CellY};
-        Band = {Draw.SnapX, Draw.SnapY, Draw.SnapX, Draw.SnapY};
+        m_draw.SnapX = tools::SnapCoordinate(x, m_view.MagnifyStep(), 1);
+        m_draw.SnapY = tools::SnapCoordinate(y, m_view.MagnifyStep(), 1);
+        m_draw.PaintDragging = true;
+        m_draw.Shape = {m_draw.CellX, m_draw.CellY, m_draw.CellX, m_draw.CellY};
+        m_view.Band() = {m_draw.SnapX, m_draw.SnapY, m_draw.SnapX, m_draw.SnapY};
         if (t == Tool::Line || t == Tool::BrokenLine) {
-            DrawLineBand();
+            m_view.DrawLineBand();
         } else {
-            DrawBoxBand();
-            if (t != Tool::Rectangle && t != Tool::FilledRectangle) Draw.OvalRadius = 0;
+            m_view.DrawBoxBand();
+            if (t != Tool::Rectangle && t != Tool::FilledRectangle) m_draw.OvalRadius = 0;
         }
         m_host.RefreshDisplay();
     }
@@ -40,85 +40,85 @@ void Session::PointerPressed(Button button, int x, int y) {
 }
 
 void Session::PointerMoved(int x, int y, bool modifierDown) {
-    m_host.DoEvents();
+    LetPendingEventsRun();
     if (!InArea()) return;
-    if (x < 0 || y < 0 || !InsideIcon(x, y)) {
-        Form.Status.DispXY.clear();
+    if (x < 0 || y < 0 || !m_view.InsideIcon(x, y, Current().SizeCode)) {
+        m_form.Status.DispXY.clear();
         return;
     }
-    m_host.DoEvents();
+    LetPendingEventsRun();
     UpdatePointerShape(x, y);
-    Draw.CellX = x / MagnifyStep;
-    Draw.CellY = y / MagnifyStep;
+    m_draw.CellX = x / m_view.MagnifyStep();
+    m_draw.CellY = y / m_view.MagnifyStep();
     PointerOverDisp(x, y);
     if (!AnyToolSelected()) return;
-    const Tool t = Form.SelectedTool;
+    const Tool t = m_form.SelectedTool;
     if (t == Tool::Paint || t == Tool::Erase) {
-        const bool dragging = t == Tool::Paint ? Draw.PaintDragging : Draw.EraseDragging;
+        const bool dragging = t == Tool::Paint ? m_draw.PaintDragging : m_draw.EraseDragging;
         if (!dragging) return;
         PlotPaintErase(t == Tool::Erase);
         ComposeIcon();
-        Draw.Shape.Left = Draw.CellX;
-        Draw.Shape.Top = Draw.CellY;
+        m_draw.Shape.Left = m_draw.CellX;
+        m_draw.Shape.Top = m_draw.CellY;
         MagnifyIcon();
         return;
     }
     if (!tools::IsShapeTool(t)) return;
-    Draw.SnapX = tools::SnapCoordinate(x, MagnifyStep, 1);
-    Draw.SnapY = tools::SnapCoordinate(y, MagnifyStep, 1);
-    if (!Draw.PaintDragging) return;
-    picDisp.Cls();
-    Band.Right = Draw.SnapX;
-    Band.Bottom = Draw.SnapY;
-    Draw.Shape.Right = Draw.CellX;
-    Draw.Shape.Bottom = Draw.CellY;
-    if (t == Tool::Spotlight) tools::SpotlightLimit(Band, Draw.Shape, MagnifyStep);
+    m_draw.SnapX = tools::SnapCoordinate(x, m_view.MagnifyStep(), 1);
+    m_draw.SnapY = tools::SnapCoordinate(y, m_view.MagnifyStep(), 1);
+    if (!m_draw.PaintDragging) return;
+    m_view.Disp().Cls();
+    m_view.Band().Right = m_draw.SnapX;
+    m_view.Band().Bottom = m_draw.SnapY;
+    m_draw.Shape.Right = m_draw.CellX;
+    m_draw.Shape.Bottom = m_draw.CellY;
+    if (t == Tool::Spotlight) tools::SpotlightLimit(m_view.Band(), m_draw.Shape, m_view.MagnifyStep());
     if (modifierDown) {
-        const int w = picImage.Width();
-        const int h = picImage.Height();
-        tools::ConstrainSquare(Draw.Shape.Left, Draw.Shape.Right, Draw.Shape.Top,
-                               Draw.Shape.Bottom, w - 1, h - 1);
-        tools::ConstrainSquare(Band.Left, Band.Right, Band.Top, Band.Bottom,
-                               w * MagnifyStep - 1, h * MagnifyStep - 1);
-        tools::ConstrainSquare(RegionRect.Left, RegionRect.Right, RegionRect.Top,
-                               RegionRect.Bottom, w * MagnifyStep - 1, h * MagnifyStep - 1);
+        const int w = m_icon.Image().Width();
+        const int h = m_icon.Image().Height();
+        tools::ConstrainSquare(m_draw.Shape.Left, m_draw.Shape.Right, m_draw.Shape.Top,
+                               m_draw.Shape.Bottom, w - 1, h - 1);
+        tools::ConstrainSquare(m_view.Band().Left, m_view.Band().Right, m_view.Band().Top, m_view.Band().Bottom,
+                               w * m_view.MagnifyStep() - 1, h * m_view.MagnifyStep() - 1);
+        tools::ConstrainSquare(m_view.Region().Rect.Left, m_view.Region().Rect.Right, m_view.Region().Rect.Top,
+                               m_view.Region().Rect.Bottom, w * m_view.MagnifyStep() - 1, h * m_view.MagnifyStep() - 1);
     }
     if (t == Tool::Line || t == Tool::BrokenLine) {
-        DrawLineBand();
+        m_view.DrawLineBand();
     } else {
-        DrawBoxBand();
+        m_view.DrawBoxBand();
         if (t != Tool::Rectangle && t != Tool::FilledRectangle) DrawOvalBand();
     }
     m_host.RefreshDisplay();
 }
 
 void Session::PointerReleased(int x, int y, bool shiftDown) {
-    Draw.PaintDragging = false;
-    Draw.EraseDragging = false;
-    Draw.RegionDragging = false;
+    m_draw.PaintDragging = false;
+    m_draw.EraseDragging = false;
+    m_draw.RegionDragging = false;
     if (!InArea()) return;
-    if (Form.VisibleFrame == Frame::SaveAsCursor) {
-        Form.CursorHotSpot = {x / MagnifyStep, y / MagnifyStep};
+    if (m_form.VisibleFrame == Frame::SaveAsCursor) {
+        m_form.CursorHotSpot = {x / m_view.MagnifyStep(), y / m_view.MagnifyStep()};
         return;
     }
-    if (Form.ColorPickerSelected) {
-        SelectedColor = picDisp.GetPixel(x, y);
+    if (m_form.ColorPickerSelected) {
+        m_selectedColor = m_view.Disp().GetPixel(x, y);
     } else {
         if (!AnyToolSelected()) return;
         Current().Changed = true;
-        Draw.CellX = x / MagnifyStep;
-        Draw.CellY = y / MagnifyStep;
-        const Tool t = Form.SelectedTool;
+        m_draw.CellX = x / m_view.MagnifyStep();
+        m_draw.CellY = y / m_view.MagnifyStep();
+        const Tool t = m_form.SelectedTool;
         if (t == Tool::Paint || t == Tool::Erase) {
             TakeUndoSnapshot();
         } else if (t == Tool::Fill || t == Tool::ReplaceColor) {
-            Draw.Shape.Left = Draw.CellX;
-            Draw.Shape.Top = Draw.CellY;
+            m_draw.Shape.Left = m_draw.CellX;
+            m_draw.Shape.Top = m_draw.CellY;
             if (t == Tool::Fill)
-                tools::FillAt(picImage, picMask, PicIcon, Draw.CellX, Draw.CellY, SelectedColor, shiftDown);
+                tools::FillAt(m_icon.Image(), m_icon.Mask(), m_icon.Composed(), m_draw.CellX, m_draw.CellY, m_selectedColor, shiftDown);
             else
-                tools::ReplaceColorAt(picImage, picMask, PicIcon, Draw.CellX, Draw.CellY, SelectedColor, shiftDown);
-            surface::MakeSameSize(PicIcon, picTemp);
+                tools::ReplaceColorAt(m_icon.Image(), m_icon.Mask(), m_icon.Composed(), m_draw.CellX, m_draw.CellY, m_selectedColor, shiftDown);
+            surface::MakeSameSize(m_icon.Composed(), m_icon.Temp());
             ComposeIcon();
             MagnifyIcon();
             TakeUndoSnapshot();
@@ -133,13 +133,13 @@ void Session::PointerReleased(int x, int y, bool shiftDown) {
 }
 
 void Session::DrawOvalBand() {
-    if (tools::ShapeGeometry(Band.Left, Band.Top, Band.Right, Band.Bottom, Draw) <= 0) return;
-    picDisp.DrawMode = surface::kDrawModeInvert;
-    picDisp.DrawStyle = surface::kDrawStyleDot;
-    picDisp.Circle(Draw.OvalCenterX, Draw.OvalCenterY, Draw.OvalRadius, picDisp.ForeColor,
-                   Draw.OvalAspect);
-    picDisp.DrawMode = surface::kDrawModeCopyPen;
-    picDisp.DrawStyle = surface::kDrawStyleSolid;
+    if (tools::ShapeGeometry(m_view.Band().Left, m_view.Band().Top, m_view.Band().Right, m_view.Band().Bottom, m_draw) <= 0) return;
+    m_view.Disp().DrawMode = surface::kDrawModeInvert;
+    m_view.Disp().DrawStyle = surface::kDrawStyleDot;
+    m_view.Disp().Circle(m_draw.OvalCenterX, m_draw.OvalCenterY, m_draw.OvalRadius, m_view.Disp().ForeColor,
+                   m_draw.OvalAspect);
+    m_view.Disp().DrawMode = surface::kDrawModeCopyPen;
+    m_view.Disp().DrawStyle = surface::kDrawStyleSolid;
 }
 
 }  // namespace vexlo::session

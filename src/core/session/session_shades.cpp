@@ -3,74 +3,54 @@
 
 namespace vexlo::session {
 
-effects::IconPlanes Session::Planes() const { return {picImage, picMask, PicIcon}; }
-
 void Session::ClickEffectsSub(int index) {
     if (index < 1 || index > 7) return;  // 0, Buttonize, has a frame of its own
     if (!NeedsIconInArea()) return;
     ClearTools();
     ResetDrawState();
-    const auto setup = effects::ShadesFrameOf(index);
-    if (!setup) return;
+    if (!effects::ShadesFrameOf(index)) return;
     ShowFrame(Frame::EffectsShades);
-    Shades.Caption = std::string(setup->Caption);
-    Shades.EffectCode = effects::CodeOf(setup->Code);
-    Shades.UseSelectedColorVisible = setup->UseSelectedColorVisible;
-    Shades.UseSelectedColorChecked = false;
-    Shades.CastControlsVisible = setup->CastControlsVisible;
-    if (setup->Code == effects::Effect::Cast) {
-        FormLoading = true;
-        effects::ResetCast(Shades.Cast);
-        FormLoading = false;
-    }
+    m_formLoading = true;
+    m_effects.OpenShades(index);
+    m_formLoading = false;
     RunShadesPreview();
 }
 
 void Session::RunShadesPreview() {
-    const auto effect = effects::EffectOfCode(Shades.EffectCode);
-    if (!effect) return;
-    m_host.SetHourglass(true);
-    effects::ShadesOptions options;
-    options.UseSelectedColor = Shades.UseSelectedColorChecked;
-    options.SelectedColor = SelectedColor;
-    options.Cast = Shades.Cast.Values;
-    Shades.Preview = effects::MakePreview(*effect, Planes(), options);
-    m_host.DoEvents();
-    m_host.SetHourglass(false);
+    host::Hourglass hourglass(m_host);
+    m_effects.PreviewShades(m_icon.Planes(), m_selectedColor);
+    LetPendingEventsRun();
 }
 
 void Session::ClickUseSelectedColor(bool checked) {
-    Shades.UseSelectedColorChecked = checked;
-    if (auto preview = effects::UseSelectedColorClicked(Shades.EffectCode, Planes(), checked, SelectedColor))
-        Shades.Preview = std::move(*preview);
+    Enter();
+    m_effects.UseSelectedColor(checked, m_icon.Planes(), m_selectedColor);
 }
 
 void Session::CastSliderChanged(int value) {
-    if (effects::CastSliderChanged(Shades.Cast, value, FormLoading))
-        Shades.Preview = effects::PreviewCast(Planes(), Shades.Cast.Values);
+    Enter();
+    m_effects.CastSliderChanged(value, m_formLoading, m_icon.Planes());
 }
 
 void Session::CastComboClicked(int element, int listIndex) {
-    if (effects::CastComboClicked(Shades.Cast, element, listIndex, FormLoading))
-        Shades.Preview = effects::PreviewCast(Planes(), Shades.Cast.Values);
+    Enter();
+    m_effects.CastComboClicked(element, listIndex, m_formLoading, m_icon.Planes());
 }
 
 void Session::ShadesRestore() {
-    FormLoading = true;
-    effects::ResetCast(Shades.Cast);
-    FormLoading = false;
-    Shades.Preview = effects::PreviewCast(Planes(), Shades.Cast.Values);
+    Enter();
+    m_formLoading = true;
+    m_effects.RestoreCast(m_icon.Planes());
+    m_formLoading = false;
 }
 
 void Session::ShadesProceed() {
-    if (!Shades.Preview || !InArea()) return;
-    m_host.SetHourglass(true);
-    effects::ProceedShades(*Shades.Preview, picImage, picMask);
-    ComposeIcon();
-    Current().Changed = true;
-    MagnifyIcon();
-    TakeUndoSnapshot();
-    m_host.SetHourglass(false);
+    Enter();
+    if (!Shades().Preview || !InArea()) return;
+    {
+        host::Hourglass hourglass(m_host);
+        ApplyToIcon([this](Surface& image, Surface& mask) { m_effects.ProceedShades(image, mask); });
+    }
     ShowFrame(Frame::ColorsPanel);
 }
 

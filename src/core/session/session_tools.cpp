@@ -6,27 +6,25 @@ namespace vexlo::session {
 using tools::Tool;
 
 void Session::ClearTools() {
-    Form.Status.RegionMeasure.clear();
-    Form.SelectedTool = Tool::None;
-    Form.ColorPickerSelected = false;
+    m_form.Status.RegionMeasure.clear();
+    m_form.SelectedTool = Tool::None;
+    m_form.ColorPickerSelected = false;
 }
 
 void Session::ResetDrawState() {
-    Draw.Shape = {};
-    RegionRect = {};
-    RegionCells = {};
-    Draw.PaintDragging = false;
-    Draw.EraseDragging = false;
-    Draw.RegionDragging = false;
-    RegionExists = false;
-    Draw.RegionReworked = false;
-    picDisp.Cls();
-    Form.PointerOfDisp = {};
+    m_draw.Shape = {};
+    m_view.Region().Rect = {};
+    m_view.Region().Cells = {};
+    m_draw.PaintDragging = false;
+    m_draw.EraseDragging = false;
+    m_draw.RegionDragging = false;
+    m_view.Region().Exists = false;
+    m_draw.RegionReworked = false;
+    m_view.Disp().Cls();
+    m_form.PointerOfDisp = {};
     RefreshToolbar();
     m_host.RefreshDisplay();
 }
-
-void Session::SelectPaintTool() { ClickTool(Tool::Paint); }
 
 void Session::ClickTool(Tool tool) {
     if (tool == Tool::None) return;
@@ -35,60 +33,53 @@ void Session::ClickTool(Tool tool) {
         m_host.MsgBox(kNoIconYet, MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }
-    Form.ColorPickerSelected = false;
-    if (Form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    if (Form.SelectedTool == tool) {
-        Form.SelectedTool = Tool::None;
+    m_form.ColorPickerSelected = false;
+    if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
+    if (m_form.SelectedTool == tool) {
+        m_form.SelectedTool = Tool::None;
     } else {
         ClearTools();
-        Form.SelectedTool = tool;
+        m_form.SelectedTool = tool;
     }
     ResetDrawState();
 }
 
 void Session::ClickColorPicker() {
     if (!InArea()) {
-        Form.ColorPickerSelected = false;
+        m_form.ColorPickerSelected = false;
         m_host.MsgBox(kNoIconYet, MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }
-    if (Form.ColorPickerSelected) {
-        Form.ColorPickerSelected = false;
+    if (m_form.ColorPickerSelected) {
+        m_form.ColorPickerSelected = false;
     } else {
         ClearTools();
-        Form.ColorPickerSelected = true;
+        m_form.ColorPickerSelected = true;
     }
 }
 
 void Session::ClickClearAllTools() {
-    if (InArea() && RegionExists) TakeUndoSnapshot();
+    if (InArea() && m_view.Region().Exists) TakeUndoSnapshot();
     ClearTools();
     ResetDrawState();
-}
-
-bool Session::InsideIcon(int x, int y) const {
-    const int w = picDisp.Width();
-    const int h = picDisp.Height();
-    if (Current().SizeCode == 1) return x <= w / 2 - 1 && y <= h / 2 - 1;
-    return x <= w - 1 && y <= h - 1;
 }
 
 void Session::UpdatePointerShape(int x, int y) {
     using tools::PointerShape;
     tools::Pointer p;
-    const Tool t = Form.SelectedTool;
-    if (Form.ColorPickerSelected) {
+    const Tool t = m_form.SelectedTool;
+    if (m_form.ColorPickerSelected) {
         p = {PointerShape::Custom, Tool::None, true};
     } else if (t == Tool::None || t == Tool::Shift) {
         p = {};
     } else if (t != Tool::Region) {
         p = {PointerShape::Custom, t, false};
-    } else if (!RegionExists) {
+    } else if (!m_view.Region().Exists) {
         p.Shape = PointerShape::Cross;
     } else {
-        const tools::DispRect& r = RegionRect;
+        const tools::DispRect& r = m_view.Region().Rect;
         const bool inside = x >= r.Left && x <= r.Right && y >= r.Top && y <= r.Bottom;
-        if (Draw.RegionReworked) {
+        if (m_draw.RegionReworked) {
             p = inside ? tools::Pointer{PointerShape::Custom, Tool::Region, false} : tools::Pointer{};
         } else if ((r.Left - 4 <= x && x <= r.Left + 8) || (r.Right - 4 <= x && x <= r.Right + 8)) {
             p.Shape = PointerShape::SizeWE;
@@ -98,7 +89,7 @@ void Session::UpdatePointerShape(int x, int y) {
             p.Shape = inside ? PointerShape::SizeAll : PointerShape::Default;
         }
     }
-    Form.PointerOfDisp = p;
+    m_form.PointerOfDisp = p;
 }
 
 }  // namespace vexlo::session

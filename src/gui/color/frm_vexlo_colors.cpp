@@ -38,7 +38,7 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
     for (int i = 1; i <= 6; ++i) cboBrushSize->addItem(QString::number(i));
     cboBrushSize->setGeometry(10, 22, 60, 24);
     connect(cboBrushSize, &QComboBox::activated, this, [this](int index) {
-        if (m_session.FormLoading) return;
+        if (m_session.FormLoading()) return;
         Run([index](session::Session& session) { session.ClickBrushSize(index); });
     });
 
@@ -54,11 +54,11 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
             [this](Qt::MouseButton, Qt::KeyboardModifiers, int, int) {
                 Run([](session::Session& session) { session.ReleaseOnColorToUse(); });
             });
-    auto* fixedPicture = new SurfaceView(&s.picColorChart[2], fraofColorPanel[1]);
+    auto* fixedPicture = new SurfaceView(&s.ColorChart(2), fraofColorPanel[1]);
     fixedPicture->setGeometry(132, 16, 32, 32);
 
     fraofColorPanel[2] = MakeGroup(panel, "256-Color Palette", QRect(6, 80, 262, 96));
-    auto* chart48 = new SurfaceView(&s.picColorChart[0], fraofColorPanel[2]);
+    auto* chart48 = new SurfaceView(&s.ColorChart(0), fraofColorPanel[2]);
     chart48->setObjectName("picColorChart0");
     chart48->setGeometry(3, 20, 256, 48);
     connect(chart48, &SurfaceView::Released, this,
@@ -77,7 +77,7 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
             [this] { Run([](session::Session& session) { session.SwitchTo16ColorChart(); }); });
 
     fraofColorPanel[3] = MakeGroup(panel, "16-Color Palette", QRect(6, 80, 262, 96));
-    auto* chart16 = new SurfaceView(&s.picColorChart[1], fraofColorPanel[3]);
+    auto* chart16 = new SurfaceView(&s.ColorChart(1), fraofColorPanel[3]);
     chart16->setObjectName("picColorChart1");
     chart16->setGeometry(51, 20, 160, 40);
     connect(chart16, &SurfaceView::Released, this,
@@ -99,9 +99,9 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
 }
 
 void FrmVexlo::SyncColorsPanel() {
-    const session::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form();
     QPalette pal = picColorToUse->palette();
-    const surface::Color c = m_session.SelectedColor;
+    const surface::Color c = m_session.SelectedColor();
     pal.setColor(QPalette::Window, QColor(surface::RedOf(c), surface::GreenOf(c), surface::BlueOf(c)));
     picColorToUse->setPalette(pal);
     fraofColorPanel[2]->setVisible(form.ColorChart0Visible);

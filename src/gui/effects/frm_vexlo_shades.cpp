@@ -90,8 +90,8 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
 }
 
 void FrmVexlo::SyncShades() {
-    const session::Session::ShadesState& shades = m_session.Shades;
-    if (m_session.Form.VisibleFrame != session::Frame::EffectsShades) return;
+    const session::ShadesState& shades = m_session.Shades();
+    if (m_session.Form().VisibleFrame != session::Frame::EffectsShades) return;
     m_syncing = true;
     lblShadesCaption->setText(QString::fromStdString(shades.Caption));
     const bool preview = shades.Preview.has_value();

@@ -25,7 +25,7 @@ void FrmVexlo::BuildSaveAsCursorFrame(QFrame* frame) {
         for (int v = 0; v <= 31; ++v) list->addItem(QString::number(v));
         list->setGeometry(28 + i * 100, 74, 60, 22);
         connect(list, &QComboBox::activated, this, [this, i](int index) {
-            Run([i, index](session::Session& s) { s.Form.CursorHotSpot[static_cast<std::size_t>(i)] = index; });
+            Run([i, index](session::Session& s) { s.ChooseHotspot(i, index); });
         });
         cboCursorHotSpot[static_cast<std::size_t>(i)] = list;
     }
@@ -42,8 +42,8 @@ void FrmVexlo::BuildSaveAsCursorFrame(QFrame* frame) {
 
 void FrmVexlo::SyncSaveAsCursor() {
     for (std::size_t i = 0; i < 2; ++i)
-        if (cboCursorHotSpot[i]->currentIndex() != m_session.Form.CursorHotSpot[i])
-            cboCursorHotSpot[i]->setCurrentIndex(m_session.Form.CursorHotSpot[i]);
+        if (cboCursorHotSpot[i]->currentIndex() != m_session.Form().CursorHotSpot[i])
+            cboCursorHotSpot[i]->setCurrentIndex(m_session.Form().CursorHotSpot[i]);
 }
 
 }  // namespace vexlo::gui

@@ -35,19 +35,22 @@ FrmVexlo::~FrmVexlo() = default;
 bool FrmVexlo::LoadForm() {
     const platform::ScreenPixels screen = platform::ScreenSize();
     const bool go = m_session.Load(screen.width, screen.height);
-    m_session.Dirs.WindowsDir = platform::WindowsDirectory();
-    m_session.Dirs.SystemDir = platform::SystemDirectory();
-    m_session.Dirs.TempDir = platform::TempDirectory();
-    m_session.Dirs.ProgramDir = platform::ProgramDirectory();
+    session::Directories dirs;
+    dirs.WindowsDir = platform::WindowsDirectory();
+    dirs.SystemDir = platform::SystemDirectory();
+    dirs.TempDir = platform::TempDirectory();
+    dirs.ProgramDir = platform::ProgramDirectory();
+    m_session.SetDirectories(dirs);
     if (!go) return false;
     // No position is stored yet: the window is placed by the screen's size alone.
     const session::WindowPos pos =
         session::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight, nullptr);
     setFixedSize(kFormWidth, kFormHeight);
     move(pos.Left, pos.Top);
-    m_session.Dirs.LastFolder = m_session.Dirs.ProgramDir;
-    m_session.Dirs.DesktopFolder = platform::DesktopDirectory();
-    m_session.Dirs.SystemFolder = platform::SystemDirectory();
+    dirs.LastFolder = dirs.ProgramDir;
+    dirs.DesktopFolder = platform::DesktopDirectory();
+    dirs.SystemFolder = platform::SystemDirectory();
+    m_session.SetDirectories(dirs);
     SyncFromModel();
     return true;
 }
@@ -61,24 +64,24 @@ void FrmVexlo::showEvent(QShowEvent* event) {
 }
 
 void FrmVexlo::FirstActivate() {
-    if (m_session.QuitAtActivation) {
+    if (m_session.QuitAtActivation()) {
         close();
         return;
     }
     // The activation lets pending events run; the timer that scheduled it must not start it
     // a second time from there.
-    if (!m_session.FirstActivation || m_activating) return;
+    if (!m_session.FirstActivation() || m_activating) return;
     m_activating = true;
     LayOutIconAndMask();
     bool keepWorkingDir = false;
     m_session.RunFirstActivation(m_commandLine, &keepWorkingDir);
-    if (!keepWorkingDir) QDir::setCurrent(QString::fromStdString(m_session.Dirs.ProgramDir));
+    if (!keepWorkingDir) QDir::setCurrent(QString::fromStdString(m_session.Dirs().ProgramDir));
     m_activating = false;
     SyncFromModel();
 }
 
 void FrmVexlo::closeEvent(QCloseEvent* event) {
-    if (!m_session.QuitAtActivation && !m_session.QueryExit()) {
+    if (!m_session.QuitAtActivation() && !m_session.QueryExit()) {
         event->ignore();
         return;
     }

@@ -43,7 +43,7 @@ public:
     bool LoadForm();
     // The first activation, run once when the window is first shown.
     void FirstActivate();
-    bool FirstActivationDone() const { return !m_session.FirstActivation; }
+    bool FirstActivationDone() const { return !m_session.FirstActivation(); }
     // Writes every control from the session's state.
     void SyncFromModel();
     // Writes the status bar and the info labels only (pointer moves).

@@ -73,7 +73,7 @@ void FrmVexlo::BuildLayout() {
 
     QFrame* picDispContainer = MakeSunken(m_form, QRect(kDispLeft, kDispTop, 388, 388));
     picDispContainer->setObjectName("picDispContainer");
-    picDisp = new SurfaceView(&m_session.picDisp, picDispContainer);
+    picDisp = new SurfaceView(&m_session.View().Disp(), picDispContainer);
     picDisp->setObjectName("picDisp");
     picDisp->setGeometry(2, 2, 384, 384);
     picDisp->setFocusPolicy(Qt::StrongFocus);
@@ -81,10 +81,10 @@ void FrmVexlo::BuildLayout() {
     BuildPanel(m_form);
 
     lblIcon = MakeLabel(m_form, "Icon", QRect(kRightLeft, kDispTop, 56, 14));
-    picIcon = new SurfaceView(&m_session.PicIcon, m_form);
+    picIcon = new SurfaceView(&m_session.Icon().Composed(), m_form);
     picIcon->setObjectName("PicIcon");
     lblMask = MakeLabel(m_form, "Mask", QRect(kRightLeft + 70, kDispTop, 56, 14));
-    picMask = new SurfaceView(&m_session.picMask, m_form);
+    picMask = new SurfaceView(&m_session.Icon().Mask(), m_form);
     picMask->setObjectName("picMask");
     LayOutIconAndMask();
 
@@ -132,7 +132,7 @@ void FrmVexlo::BuildPanel(QWidget* parent) {
         label->installEventFilter(this);
         lblPanelIcon[static_cast<std::size_t>(i)] = label;
         QFrame* box = MakeSunken(parent, QRect(kPanelLeft + 7, top + 12, 56, 52));
-        auto* view = new SurfaceView(&m_session.picPanelIcon[static_cast<std::size_t>(i)], box);
+        auto* view = new SurfaceView(&m_session.Panel().PanelIcon(static_cast<std::size_t>(i)), box);
         view->setObjectName(QString("picPanelIcon%1").arg(i));
         view->SetCentred(true);
         view->setGeometry(2, 2, 52, 48);
@@ -143,7 +143,7 @@ void FrmVexlo::BuildPanel(QWidget* parent) {
         connect(view, &SurfaceView::Released, this,
                 [this, i](Qt::MouseButton button, Qt::KeyboardModifiers, int, int) {
                     if (button == Qt::RightButton &&
-                        m_session.Form.VisibleFrame == session::Frame::IconsList)
+                        m_session.Form().VisibleFrame == session::Frame::IconsList)
                         Run([i](auto& s) { s.DoubleClickPanel(i); });
                 });
     }
@@ -182,7 +182,7 @@ void FrmVexlo::BuildStatusBar() {
 }
 
 void FrmVexlo::LayOutIconAndMask() {
-    const bool mask = m_session.Form.DisplayMaskChecked;
+    const bool mask = m_session.Form().DisplayMaskChecked;
     const int picTop = kDispTop + 16;
     picIcon->setGeometry(kRightLeft, picTop, 48, 48);
     lblIcon->move(kRightLeft, kDispTop);

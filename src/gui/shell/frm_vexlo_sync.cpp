@@ -23,12 +23,12 @@ void SetText(QLabel* label, const std::string& text) {
 }  // namespace
 
 void FrmVexlo::SyncFromModel() {
-    const session::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form();
     picDisp->update();
     // The real-size views show the icon only while one is in the Editing Area.
     const bool inArea = m_session.InArea();
-    picIcon->SetSurface(inArea ? &m_session.PicIcon : nullptr);
-    picMask->SetSurface(inArea ? &m_session.picMask : nullptr);
+    picIcon->SetSurface(inArea ? &m_session.Icon().Composed() : nullptr);
+    picMask->SetSurface(inArea ? &m_session.Icon().Mask() : nullptr);
     for (int i = 0; i < session::kSlotCount; ++i) {
         const auto k = static_cast<std::size_t>(i);
         picPanelIcon[k]->update();
@@ -61,7 +61,7 @@ void FrmVexlo::SyncFromModel() {
 }
 
 void FrmVexlo::SyncStatus() {
-    const session::StatusBar& status = m_session.Form.Status;
+    const session::StatusBar& status = m_session.Form().Status;
     for (std::size_t i = 0; i < 4; ++i) SetText(lblStatusPanel[i], status.Panel[i]);
     imgAlphaOnStatusPanel->setVisible(status.AlphaImageVisible);
 

@@ -80,7 +80,7 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
 }
 
 void FrmVexlo::SyncPointer() {
-    const tools::Pointer p = m_session.Form.PointerOfDisp;
+    const tools::Pointer p = m_session.Form().PointerOfDisp;
     if (p == m_shownPointer) return;
     m_shownPointer = p;
     switch (p.Shape) {
@@ -103,7 +103,7 @@ void FrmVexlo::SyncPointer() {
 }
 
 void FrmVexlo::SyncToolbox() {
-    const session::FormState& form = m_session.Form;
+    const session::FormState& form = m_session.Form();
     for (int i = 0; i < tools::kToolCount; ++i) {
         const bool on = static_cast<int>(form.SelectedTool) == i;
         ToolButtons[static_cast<std::size_t>(i)]->setChecked(on);

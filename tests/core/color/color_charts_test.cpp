@@ -57,56 +57,56 @@ protected:
 };
 
 TEST_F(PaletteModeTest, StartsIn16ColorsWithWhite) {
-    EXPECT_EQ(s.Form.PaletteMode, 0);
-    EXPECT_FALSE(s.Form.ColorChart0Visible);
-    EXPECT_FALSE(s.Form.ColorPickerEnabled);
-    EXPECT_EQ(s.SelectedColor, 0xFFFFFFu);
+    EXPECT_EQ(s.Form().PaletteMode, 0);
+    EXPECT_FALSE(s.Form().ColorChart0Visible);
+    EXPECT_FALSE(s.Form().ColorPickerEnabled);
+    EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);
 }
 
 TEST_F(PaletteModeTest, SwitchingTo16ResetsTheColorButChoosingItAgainDoesNot) {
     s.ClickPaletteSub(1);
-    EXPECT_TRUE(s.Form.ColorMixerVisible);
+    EXPECT_TRUE(s.Form().ColorMixerVisible);
     s.ReleaseOnColorChart(0, 14.5 * 16, 2.5 * 16);  // blue
-    EXPECT_EQ(s.SelectedColor, 0xFF0000u);
+    EXPECT_EQ(s.SelectedColor(), 0xFF0000u);
     s.ClickPaletteSub(1);  // already in force
-    EXPECT_EQ(s.SelectedColor, 0xFF0000u);
+    EXPECT_EQ(s.SelectedColor(), 0xFF0000u);
     s.ClickPaletteSub(0);
-    EXPECT_EQ(s.SelectedColor, 0xFFFFFFu);
+    EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);
     s.ReleaseOnColorChart(1, 3.5 * 20, 0.5 * 20);  // Red
     s.ClickPaletteSub(0);
-    EXPECT_EQ(s.SelectedColor, 0x0000FFu);
+    EXPECT_EQ(s.SelectedColor(), 0x0000FFu);
     s.ClickPaletteSub(1);  // 16 to 256 keeps the color
-    EXPECT_EQ(s.SelectedColor, 0x0000FFu);
+    EXPECT_EQ(s.SelectedColor(), 0x0000FFu);
 }
 
 TEST_F(PaletteModeTest, PaletteMenuDoesNothingWhileAnotherFrameIsUp) {
     s.ShowFrame(session::Frame::EffectsShades);
     s.ClickPaletteSub(1);
-    EXPECT_EQ(s.Form.PaletteMode, 0);
+    EXPECT_EQ(s.Form().PaletteMode, 0);
 }
 
 TEST_F(PaletteModeTest, TheIconDecidesTheModeWhenItsSlotOpens) {
     s.FileNew(0);
-    s.picImage.SetPixelV(0, 0, 0x123456);  // not one of the sixteen
-    s.picMask.SetPixelV(0, 0, 0);
+    s.Icon().Image().SetPixelV(0, 0, 0x123456);  // not one of the sixteen
+    s.Icon().Mask().SetPixelV(0, 0, 0);
     s.Current().Changed = true;
     s.ClickPanel(1);
     s.ClickPanel(0);
-    EXPECT_EQ(s.Form.PaletteMode, 1);
+    EXPECT_EQ(s.Form().PaletteMode, 1);
     host.Answer(host::MsgAnswer::No);  // the changed icon is to be replaced
     s.FileNew(1);
     s.ClickPanel(2);
     s.ClickPanel(0);
-    EXPECT_EQ(s.Form.PaletteMode, 0);
+    EXPECT_EQ(s.Form().PaletteMode, 0);
 }
 
 TEST_F(PaletteModeTest, ColorDialogChoosesOrCancels) {
     host.AnswerColor(0x00C0FF);
     host.AnswerColor(-1);
     s.PopColorChart();
-    EXPECT_EQ(s.SelectedColor, 0x00C0FFu);
+    EXPECT_EQ(s.SelectedColor(), 0x00C0FFu);
     s.PopColorChart();
-    EXPECT_EQ(s.SelectedColor, 0x00C0FFu);
+    EXPECT_EQ(s.SelectedColor(), 0x00C0FFu);
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ protected:
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
         s.FileNew(1);
-        s.picImage.SetPixelV(3, 3, 0x0000FF);
-        s.picMask.SetPixelV(3, 3, 0);
+        s.Icon().Image().SetPixelV(3, 3, 0x0000FF);
+        s.Icon().Mask().SetPixelV(3, 3, 0);
         s.ComposeIcon();
         s.TakeUndoSnapshot();
     }
@@ -25,37 +25,37 @@ protected:
 
 TEST_F(ShadesFlowTest, GrayscaleProceedsIntoThePlanesWithOneUndoEntry) {
     s.RunMenuItem("mnuEffectsSub(2)");
-    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::EffectsShades);
-    EXPECT_EQ(s.Shades.Caption, "Grayscale");
-    ASSERT_TRUE(s.Shades.Preview.has_value());
-    EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);  // the planes wait for Proceed
+    EXPECT_EQ(s.Form().VisibleFrame, session::Frame::EffectsShades);
+    EXPECT_EQ(s.Shades().Caption, "Grayscale");
+    ASSERT_TRUE(s.Shades().Preview.has_value());
+    EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), 0x0000FFu);  // the planes wait for Proceed
     const int undo = s.UndoCount();
     s.ShadesProceed();
     const int gray = 76;  // round(0.3 x 255)
-    EXPECT_EQ(s.picImage.GetPixel(3, 3), surface::Rgb(gray, gray, gray));
+    EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), surface::Rgb(gray, gray, gray));
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
-    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::ColorsPanel);
+    EXPECT_EQ(s.Form().VisibleFrame, session::Frame::ColorsPanel);
     s.UndoStep();
-    EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);
+    EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), 0x0000FFu);
 }
 
 TEST_F(ShadesFlowTest, CastControlsAndRestore) {
     s.RunMenuItem("mnuEffectsSub(7)");
-    EXPECT_TRUE(s.Shades.CastControlsVisible);
+    EXPECT_TRUE(s.Shades().CastControlsVisible);
     s.CastComboClicked(0, 255);
-    EXPECT_EQ(s.Shades.Cast.Values[0], 255);
+    EXPECT_EQ(s.Shades().Cast.Values[0], 255);
     s.ShadesRestore();
-    EXPECT_EQ(s.Shades.Cast.Values, (effects::CastValues{127, 127, 127}));
-    EXPECT_EQ(s.Shades.Cast.Slider, 127);
+    EXPECT_EQ(s.Shades().Cast.Values, (effects::CastValues{127, 127, 127}));
+    EXPECT_EQ(s.Shades().Cast.Slider, 127);
 }
 
 TEST_F(ShadesFlowTest, AnotherFrameDiscardsThePreviewAndNeedsAnIcon) {
     s.RunMenuItem("mnuEffectsSub(1)");
     s.CancelFrame();
-    EXPECT_FALSE(s.Shades.Preview.has_value());
+    EXPECT_FALSE(s.Shades().Preview.has_value());
     s.ShadesProceed();  // nothing to proceed with
-    EXPECT_EQ(s.picImage.GetPixel(3, 3), 0x0000FFu);
+    EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), 0x0000FFu);
     s.ClickPanel(4);
     host.Answer(host::MsgAnswer::Ok);
     s.RunMenuItem("mnuEffectsSub(3)");

@@ -54,10 +54,10 @@ TEST_F(CursorBitmapFlowTest, ACursorOpensWithItsHotspotAndDepth) {
     EXPECT_EQ(slot.HotspotY, 31);
     EXPECT_EQ(slot.ColorCount, 256);  // four colors, written at 8 bits
     EXPECT_EQ(slot.BitsPerPixel, 8);
-    EXPECT_EQ(s.picImage.GetPixel(1, 5), 0x040506u);
-    EXPECT_EQ(s.picMask.GetPixel(0, 0), 0xFFFFFFu);
-    EXPECT_EQ(s.PicIcon.GetPixel(0, 0), 0xC0C0C0u);
-    EXPECT_EQ(s.CurrentPath, path);
+    EXPECT_EQ(s.Icon().Image().GetPixel(1, 5), 0x040506u);
+    EXPECT_EQ(s.Icon().Mask().GetPixel(0, 0), 0xFFFFFFu);
+    EXPECT_EQ(s.Icon().Composed().GetPixel(0, 0), 0xC0C0C0u);
+    EXPECT_EQ(s.CurrentPath(), path);
 }
 
 TEST_F(CursorBitmapFlowTest, AHotspotOutsideTheImageIsAnInvalidCursor) {
@@ -84,13 +84,13 @@ TEST_F(CursorBitmapFlowTest, SaveAsCursorTakesTheHotspotListsAndKeepsTheRecord) 
 
     s.FileNew(0);
     s.RunMenuItem("mnuFileSaveAsCursor");
-    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::SaveAsCursor);
-    EXPECT_EQ(s.Form.CursorHotSpot, (std::array<int, 2>{0, 0}));
+    EXPECT_EQ(s.Form().VisibleFrame, session::Frame::SaveAsCursor);
+    EXPECT_EQ(s.Form().CursorHotSpot, (std::array<int, 2>{0, 0}));
     s.PointerReleased(5 * 12 + 3, 9 * 12 + 3, false);  // a click on the Editing Area
-    EXPECT_EQ(s.Form.CursorHotSpot, (std::array<int, 2>{5, 9}));
+    EXPECT_EQ(s.Form().CursorHotSpot, (std::array<int, 2>{5, 9}));
     host.AnswerSave(Path("out.cur"));
     EXPECT_TRUE(s.SaveDialogFlow(3));
-    EXPECT_EQ(s.Form.VisibleFrame, session::Frame::ColorsPanel);
+    EXPECT_EQ(s.Form().VisibleFrame, session::Frame::ColorsPanel);
     const files::CursorProbe probe = files::ProbeCursorFile(Path("out.cur"));
     EXPECT_TRUE(probe.Valid);
     EXPECT_EQ(probe.HotspotX, 5);
@@ -120,14 +120,14 @@ TEST_F(CursorBitmapFlowTest, PicturesImportAtTheirIconSize) {
         if (c.asks) {
             EXPECT_EQ(host.shown[0].text, files::NotIconSizeQuestion(c.w, c.h));
         }
-        EXPECT_EQ(s.picImage.Width(), c.side);
+        EXPECT_EQ(s.Icon().Image().Width(), c.side);
         EXPECT_EQ(s.Current().KindText, "BMP or other file");
         EXPECT_EQ(s.Current().FileSpec, "BmpToIcon");
-        EXPECT_EQ(s.picMask.GetPixel(1, 1), 0xFFFFFFu);
-        EXPECT_EQ(s.picImage.GetPixel(0, 0), 0x3366CCu);
+        EXPECT_EQ(s.Icon().Mask().GetPixel(1, 1), 0xFFFFFFu);
+        EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), 0x3366CCu);
         const int beyond = std::min(c.w, c.side);
         if (beyond < c.side) {
-            EXPECT_EQ(s.picMask.GetPixel(beyond, 0), 0xFFFFFFu);  // past the picture: transparent
+            EXPECT_EQ(s.Icon().Mask().GetPixel(beyond, 0), 0xFFFFFFu);  // past the picture: transparent
         }
         s.Current().Changed = false;
     }

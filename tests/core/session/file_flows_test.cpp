@@ -27,8 +27,8 @@ protected:
     }
     std::string Path(const std::string& name) const { return folder.Path(name); }
     void Paint(int x, int y, Color c) {
-        s.picImage.SetPixelV(x, y, c);
-        s.picMask.SetPixelV(x, y, 0);
+        s.Icon().Image().SetPixelV(x, y, c);
+        s.Icon().Mask().SetPixelV(x, y, 0);
         s.ComposeIcon();
         s.Current().Changed = true;
     }
@@ -47,9 +47,9 @@ TEST_F(FileFlowTest, SaveAsThenOpenGivesTheSamePlanes) {
     s.FileNew(1);
     Paint(0, 0, 0x0000FF);
     Paint(15, 15, 0x123456);                 // off the sixteen: 8 bits
-    s.picImage.SetPixelV(7, 7, 0x00FF00);    // inverting
+    s.Icon().Image().SetPixelV(7, 7, 0x00FF00);    // inverting
     s.ComposeIcon();
-    const surface::Surface image = s.picImage, mask = s.picMask;
+    const surface::Surface image = s.Icon().Image(), mask = s.Icon().Mask();
     host.AnswerSave(Path("a.ico"));
     s.RunMenuItem("mnuFileSaveAsICO");
     ASSERT_EQ(host.saveRequests.size(), 1u);
@@ -58,18 +58,18 @@ TEST_F(FileFlowTest, SaveAsThenOpenGivesTheSamePlanes) {
     EXPECT_EQ(s.Current().FileSpec, Path("a.ico"));
     EXPECT_FALSE(s.Current().Changed);
     EXPECT_EQ(s.Current().ColorCount, 256);
-    EXPECT_EQ(s.Form.Status.Panel[0], Path("a.ico"));
+    EXPECT_EQ(s.Form().Status.Panel[0], Path("a.ico"));
 
     s.FileNew(0);
     host.AnswerOpen(Path("a.ico"));
     s.RunMenuItem("mnuFileOpen(0)");
-    EXPECT_TRUE(SamePixels(s.picImage, image));
-    EXPECT_TRUE(SamePixels(s.picMask, mask));
+    EXPECT_TRUE(SamePixels(s.Icon().Image(), image));
+    EXPECT_TRUE(SamePixels(s.Icon().Mask(), mask));
     EXPECT_EQ(s.Current().SizeCode, 1);
     EXPECT_EQ(s.Current().KindText, "ICO file");
     EXPECT_EQ(s.Current().BitsPerPixel, 8);
     EXPECT_EQ(s.UndoCount(), 1);
-    EXPECT_EQ(s.Form.PaletteMode, 1);  // a 256-color icon brings the 256-color palette
+    EXPECT_EQ(s.Form().PaletteMode, 1);  // a 256-color icon brings the 256-color palette
 }
 
 TEST_F(FileFlowTest, SaveOfAnIcoFileNeedsNoDialog) {
@@ -121,7 +121,7 @@ TEST_F(FileFlowTest, BadFilesGiveTheirMessagesAndLeaveTheSlot) {
     s.FileNew(0);
     Paint(1, 1, 0x0000FF);
     s.Current().Changed = false;
-    const surface::Surface image = s.picImage;
+    const surface::Surface image = s.Icon().Image();
     { std::ofstream(Path("junk.ico")) << "not an icon at all"; }
     host.AnswerOpen(Path("junk.ico"));
     host.Answer(MsgAnswer::Ok);
@@ -129,7 +129,7 @@ TEST_F(FileFlowTest, BadFilesGiveTheirMessagesAndLeaveTheSlot) {
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, files::InvalidIconFileMessage(Path("junk.ico")));
     EXPECT_EQ(host.shown[0].icon, host::MsgIcon::Exclamation);
-    EXPECT_TRUE(SamePixels(s.picImage, image));
+    EXPECT_TRUE(SamePixels(s.Icon().Image(), image));
     EXPECT_EQ(s.Current().FileSpec, "Untitled");
 }
 
@@ -144,8 +144,8 @@ TEST_F(FileFlowTest, CommandLineOpensTheIconAndKeepsTheWorkingFolder) {
     EXPECT_EQ(fresh.RunFirstActivation("\"" + Path("c d.ico") + "\"", &keep),
               session::CommandLineResult::Loaded);
     EXPECT_TRUE(keep);
-    EXPECT_EQ(fresh.picImage.GetPixel(47, 47), 0x00FF00u);
-    EXPECT_EQ(fresh.MagnifyStep, 8);
+    EXPECT_EQ(fresh.Icon().Image().GetPixel(47, 47), 0x00FF00u);
+    EXPECT_EQ(fresh.View().MagnifyStep(), 8);
 }
 
 TEST_F(FileFlowTest, SuggestedNameOfAnImageOfAMultiIconFile) {

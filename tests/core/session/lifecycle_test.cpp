@@ -13,7 +13,7 @@ class Lifecycle : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(session.Load(1024, 768)); }
     void Occupy(int i, const std::string& file, bool changed, bool neverSaved) {
-        IconSlot& s = session.Slots[static_cast<std::size_t>(i)];
+        IconSlot& s = session.SlotRecord(i);
         s.Occupied = true;
         s.FileSpec = file;
         s.Changed = changed;
@@ -25,7 +25,7 @@ protected:
 
 TEST_F(Lifecycle, ExitQuestionListsEachUnsavedSlot) {
     Occupy(0, "/icons/a.ico", false, false);
-    session.Slots[2].Changed = session.Slots[3].NeverSaved = true;  // free slots never count
+    session.SlotRecord(2).Changed = session.SlotRecord(3).NeverSaved = true;  // free slots never count
     EXPECT_EQ(session.UnsavedSlotsQuestion(), "");
     EXPECT_TRUE(session.QueryExit());  // asks nothing
 
@@ -56,10 +56,10 @@ TEST_F(Lifecycle, SmallScreenAsksAndNoQuits) {
               " Your current screen is 640x480.  Proceed still?");
     host.Answer(MsgAnswer::No);
     EXPECT_FALSE(session.Load(799, 600));
-    EXPECT_TRUE(session.QuitAtActivation);
+    EXPECT_TRUE(session.QuitAtActivation());
     host.Answer(MsgAnswer::Yes);
     EXPECT_TRUE(session.Load(800, 599));
-    EXPECT_FALSE(session.QuitAtActivation);
+    EXPECT_FALSE(session.QuitAtActivation());
     EXPECT_TRUE(session.Load(800, 600));  // asks nothing
     ASSERT_EQ(host.shown.size(), 2u);
     EXPECT_EQ(host.shown[1].text, SmallScreenQuestion(800, 599));

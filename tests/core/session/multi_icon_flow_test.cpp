@@ -36,7 +36,9 @@ protected:
     void SetUp() override {
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
-        s.Dirs.TempDir = dir.string() + "/";
+        session::Directories dirs = s.Dirs();
+        dirs.TempDir = dir.string() + "/";
+        s.SetDirectories(dirs);
         // 16x16 in 16 colors, 32x32 in 256 colors, 16x16 in 256 colors.
         files::IconSet set;
         set.Images = {ImageOf(16, 0x000080), ImageOf(32, 0x123456), ImageOf(16, 0x654321)};
@@ -66,15 +68,15 @@ TEST_F(MultiIconFlowTest, OpeningAFileWithAChoiceShowsTheDialogAndTakesItsImage)
     EXPECT_TRUE(slot.MultiIconFile);
     EXPECT_EQ(slot.MultiIconIndex, 1);
     EXPECT_EQ(slot.ColorCount, 256);
-    EXPECT_EQ(s.picImage.GetPixel(5, 5), 0x123456u);
-    EXPECT_EQ(s.Form.Status.Panel[1], "MIF");
+    EXPECT_EQ(s.Icon().Image().GetPixel(5, 5), 0x123456u);
+    EXPECT_EQ(s.Form().Status.Panel[1], "MIF");
 }
 
 TEST_F(MultiIconFlowTest, SavingBackReplacesOnlyThatImage) {
     host.AnswerOpen(Path("multi.ico"));
     host.AnswerMultiIcon(Choice(2, "02/16/256/8"));
     s.RunMenuItem("mnuFileOpen(0)");
-    s.picImage.Fill(0x00FF00);  // a VGA color: the file's 256-color entry is kept by the slot
+    s.Icon().Image().Fill(0x00FF00);  // a VGA color: the file's 256-color entry is kept by the slot
     s.ComposeIcon();
     s.Current().Changed = true;
     host.AnswerSave(Path("back.ico"));
@@ -109,8 +111,8 @@ TEST_F(MultiIconFlowTest, AddingA16ColorIconOnceAndRefusingItTheSecondTime) {
     set.Images = {ImageOf(16, 0x654321)};  // 16x16 in 256 colors
     ASSERT_TRUE(files::WriteIconSet(Path("target.ico"), set));
     s.FileNew(1);
-    s.picImage.Fill(0x000080);  // Maroon: sixteen colors
-    s.picMask.Fill(0);
+    s.Icon().Image().Fill(0x000080);  // Maroon: sixteen colors
+    s.Icon().Mask().Fill(0);
     s.ComposeIcon();
     s.Current().BitsPerPixel = 4;
     s.Current().Changed = true;
@@ -144,8 +146,8 @@ TEST_F(MultiIconFlowTest, HostileTargetsAreRefusedAndLeftAsTheyWere) {
     hostile[1][6 + 12] = 0xFF, hostile[1][6 + 13] = 0xFF;        // dwImageOffset of image 0
     std::copy(good.begin() + 6 + 16 + 12, good.begin() + 6 + 16 + 16, hostile[2].begin() + 6 + 12);
     s.FileNew(1);
-    s.picImage.Fill(0x000080);
-    s.picMask.Fill(0);
+    s.Icon().Image().Fill(0x000080);
+    s.Icon().Mask().Fill(0);
     s.ComposeIcon();
     for (std::size_t i = 0; i < hostile.size(); ++i) {
         SCOPED_TRACE(i);

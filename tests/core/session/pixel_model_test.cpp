@@ -42,8 +42,8 @@ struct Fixture {
     Fixture() { EXPECT_TRUE(session.Load(1024, 768)); }
     // A pixel of the current icon as a drawing tool leaves it.
     void Paint(int x, int y, Color c, Color mask = kBlack) {
-        session.picImage.SetPixelV(x, y, c);
-        session.picMask.SetPixelV(x, y, mask);
+        session.Icon().Image().SetPixelV(x, y, c);
+        session.Icon().Mask().SetPixelV(x, y, mask);
         session.ComposeIcon();
         session.Current().Changed = true;
     }
@@ -63,28 +63,28 @@ TEST(PixelModel, NewIconThenComposeStoreAndRebuild) {
         SCOPED_TRACE(c.side);
         s.FileNew(c.entry);
         EXPECT_EQ(s.Current().SizeCode, SizeCodeOfSide(c.side));
-        EXPECT_EQ(s.MagnifyStep, c.step);
-        EXPECT_EQ(s.picPanelIcon[0].Width(), c.side);
-        EXPECT_TRUE(AllOf(s.picImage, kBlack) && AllOf(s.picMask, kWhite));
-        EXPECT_TRUE(AllOf(s.PicIcon, kTransparentGray));
+        EXPECT_EQ(s.View().MagnifyStep(), c.step);
+        EXPECT_EQ(s.Panel().PanelIcon(0).Width(), c.side);
+        EXPECT_TRUE(AllOf(s.Icon().Image(), kBlack) && AllOf(s.Icon().Mask(), kWhite));
+        EXPECT_TRUE(AllOf(s.Icon().Composed(), kTransparentGray));
 
         const int x0 = c.side - 5, y = c.side - 1;
         const Color image[] = {kRed, kBlack, kWhite, kTransparentGray, kBlack};
         const Color mask[] = {kBlack, kWhite, kWhite, kBlack, kBlack};
         for (int i = 0; i < 5; ++i) f.Paint(x0 + i, y, image[i], mask[i]);
-        EXPECT_EQ(Row(s.PicIcon, x0, y, 5), "rgxg#");
+        EXPECT_EQ(Row(s.Icon().Composed(), x0, y, 5), "rgxg#");
         s.StoreToPanel();
-        EXPECT_EQ(Row(s.picPanelIcon[0], x0, y, 5), "rgxg#");
-        EXPECT_EQ(Row(s.picPanelMask[0], x0, y, 5), "#..##");
+        EXPECT_EQ(Row(s.Panel().PanelIcon(0), x0, y, 5), "rgxg#");
+        EXPECT_EQ(Row(s.Panel().PanelMask(0), x0, y, 5), "#..##");
 
-        s.picImage.Fill(kRed);
-        s.picMask.Fill(kRed);
+        s.Icon().Image().Fill(kRed);
+        s.Icon().Mask().Fill(kRed);
         s.RebuildFromPanel();
         // The inverting pixel comes back painted in its composed color; gray stays painted.
-        EXPECT_EQ(Row(s.picImage, x0, y, 5), "r#xg#");
-        EXPECT_EQ(Row(s.picMask, x0, y, 5), "#.###");
-        EXPECT_EQ(Row(s.PicIcon, x0, y, 5), "rgxg#");
-        EXPECT_EQ(Row(s.picImage, 0, 0, 3) + Row(s.picMask, 0, 0, 3), "###...");
+        EXPECT_EQ(Row(s.Icon().Image(), x0, y, 5), "r#xg#");
+        EXPECT_EQ(Row(s.Icon().Mask(), x0, y, 5), "#.###");
+        EXPECT_EQ(Row(s.Icon().Composed(), x0, y, 5), "rgxg#");
+        EXPECT_EQ(Row(s.Icon().Image(), 0, 0, 3) + Row(s.Icon().Mask(), 0, 0, 3), "###...");
         s.Current().Changed = false;
     }
 }
@@ -103,11 +103,11 @@ TEST(PanelSwitching, LeavingAChangedIcon) {
         SCOPED_TRACE(static_cast<int>(c.answer.value_or(A::Ok)));
         Fixture f;
         Session& s = f.session;
-        s.Form.PromptToSaveChecked = c.prompt;
+        if (c.prompt) s.RunMenuItem("mnuOptionsPromptToSave");
         s.FileNew(2);
         f.Paint(47, 0, kRed);
-        const Surface image = s.picImage, disp = s.picDisp;
-        const auto labels = s.Form.PanelLabelBack;
+        const Surface image = s.Icon().Image(), disp = s.View().Disp();
+        const auto labels = s.Form().PanelLabelBack;
         if (c.answer) f.host.Answer(*c.answer);
         if (c.answer == A::Yes) f.host.AnswerSave("");  // Yes runs Save As; cancel it
         s.ClickPanel(3);
@@ -117,16 +117,16 @@ TEST(PanelSwitching, LeavingAChangedIcon) {
             EXPECT_EQ(f.host.shown[0].buttons, MsgButtons::YesNoCancel);
             EXPECT_EQ(f.host.shown[0].title, "Vexlo");
         }
-        EXPECT_EQ(s.Slots[0].Changed, c.changedAfter);
-        EXPECT_EQ(s.picPanelIcon[0].GetPixel(47, 0), c.moves ? kRed : kTransparentGray);
-        EXPECT_EQ(s.CurrentSlot, c.moves ? 3 : 0);
-        EXPECT_EQ(s.Form.PanelLabelBack, c.moves ? LabelsFor(3) : labels);
-        EXPECT_EQ(s.MagnifyStep, c.moves ? 12 : 8);
-        EXPECT_EQ(s.PicIcon.Width(), c.moves ? 32 : 48);
+        EXPECT_EQ(s.Panel().Slot(0).Changed, c.changedAfter);
+        EXPECT_EQ(s.Panel().PanelIcon(0).GetPixel(47, 0), c.moves ? kRed : kTransparentGray);
+        EXPECT_EQ(s.CurrentSlot(), c.moves ? 3 : 0);
+        EXPECT_EQ(s.Form().PanelLabelBack, c.moves ? LabelsFor(3) : labels);
+        EXPECT_EQ(s.View().MagnifyStep(), c.moves ? 12 : 8);
+        EXPECT_EQ(s.Icon().Composed().Width(), c.moves ? 32 : 48);
         if (c.moves) {
-            EXPECT_TRUE(AllOf(s.picDisp, kTransparentGray));
+            EXPECT_TRUE(AllOf(s.View().Disp(), kTransparentGray));
         } else {
-            EXPECT_TRUE(SamePixels(s.picImage, image) && SamePixels(s.picDisp, disp));
+            EXPECT_TRUE(SamePixels(s.Icon().Image(), image) && SamePixels(s.View().Disp(), disp));
         }
     }
 }
@@ -134,15 +134,15 @@ TEST(PanelSwitching, LeavingAChangedIcon) {
 TEST(PanelSwitching, ClickingTheCurrentSlotStoresAndStopsThere) {
     Fixture f;
     Session& s = f.session;
-    s.Form.PromptToSaveChecked = true;
+    s.RunMenuItem("mnuOptionsPromptToSave");
     s.FileNew(0);
     f.Paint(2, 2, kWhite, kWhite);  // inverting: a rebuild would turn it painted
     f.host.Answer(A::No);
     s.ClickPanel(0);
     EXPECT_FALSE(s.Current().Changed);
-    EXPECT_EQ(Row(s.picPanelIcon[0], 2, 2, 1), "x");
-    EXPECT_EQ(Row(s.picMask, 2, 2, 1), ".");           // planes not rebuilt
-    EXPECT_EQ(s.Form.PanelLabelBack, LabelsFor(-1));  // as the load left them
+    EXPECT_EQ(Row(s.Panel().PanelIcon(0), 2, 2, 1), "x");
+    EXPECT_EQ(Row(s.Icon().Mask(), 2, 2, 1), ".");           // planes not rebuilt
+    EXPECT_EQ(s.Form().PanelLabelBack, LabelsFor(-1));  // as the load left them
     s.ClickPanel(0);                                  // unchanged now: no second question
     EXPECT_EQ(f.host.shown.size(), 1u);
 }
@@ -156,21 +156,21 @@ TEST(PanelSwitching, AnOccupiedSlotIsRebuiltAtItsSizeAndOthersStayPut) {
     s.FileNew(1);  // slot 1: 16x16
     f.Paint(15, 0, kRed);
     s.ClickPanel(0);
-    const Surface icon1 = s.picPanelIcon[1], mask1 = s.picPanelMask[1];
-    EXPECT_EQ(s.Form.PanelLabelBack, LabelsFor(0));
-    EXPECT_EQ(s.MagnifyStep, 8);
-    EXPECT_EQ(Row(s.picImage, 45, 47, 3), "##r");
-    EXPECT_EQ(Row(s.picImage, 15, 0, 1), "#");  // slot 1's pixel did not leak in
-    EXPECT_EQ(Row(s.picDisp, 369, 380, 15), "ggggggg?rrrrrrr");  // cells 46, 47; '?' a line
+    const Surface icon1 = s.Panel().PanelIcon(1), mask1 = s.Panel().PanelMask(1);
+    EXPECT_EQ(s.Form().PanelLabelBack, LabelsFor(0));
+    EXPECT_EQ(s.View().MagnifyStep(), 8);
+    EXPECT_EQ(Row(s.Icon().Image(), 45, 47, 3), "##r");
+    EXPECT_EQ(Row(s.Icon().Image(), 15, 0, 1), "#");  // slot 1's pixel did not leak in
+    EXPECT_EQ(Row(s.View().Disp(), 369, 380, 15), "ggggggg?rrrrrrr");  // cells 46, 47; '?' a line
 
-    const Surface icon0 = s.picPanelIcon[0];
+    const Surface icon0 = s.Panel().PanelIcon(0);
     s.ClickPanel(1);
-    EXPECT_EQ(s.Form.PanelLabelBack, LabelsFor(1));
-    EXPECT_EQ(s.MagnifyStep, 12);
-    EXPECT_EQ(Row(s.picImage, 14, 0, 2), "#r");
-    EXPECT_EQ(Row(s.picDisp, 188, 5, 8), "rrrr?ggg");  // the quarter ends at the line at 192
-    EXPECT_TRUE(SamePixels(s.picPanelIcon[1], icon1) && SamePixels(s.picPanelMask[1], mask1));
-    EXPECT_TRUE(SamePixels(s.picPanelIcon[0], icon0));
+    EXPECT_EQ(s.Form().PanelLabelBack, LabelsFor(1));
+    EXPECT_EQ(s.View().MagnifyStep(), 12);
+    EXPECT_EQ(Row(s.Icon().Image(), 14, 0, 2), "#r");
+    EXPECT_EQ(Row(s.View().Disp(), 188, 5, 8), "rrrr?ggg");  // the quarter ends at the line at 192
+    EXPECT_TRUE(SamePixels(s.Panel().PanelIcon(1), icon1) && SamePixels(s.Panel().PanelMask(1), mask1));
+    EXPECT_TRUE(SamePixels(s.Panel().PanelIcon(0), icon0));
 }
 
 TEST(PanelSwitching, FileNewAsksBeforeReplacingAnUnsavedIcon) {
@@ -192,28 +192,28 @@ TEST(PanelSwitching, FileNewAsksBeforeReplacingAnUnsavedIcon) {
         s.Current().InEditingArea = c.inArea;
         s.Current().Changed = c.changed;
         s.Current().NeverSaved = c.neverSaved;
-        const Surface disp = s.picDisp;
+        const Surface disp = s.View().Disp();
         if (c.answer) f.host.Answer(*c.answer);
         if (c.answer == A::Yes) f.host.AnswerSave("");  // Yes runs Save As; cancel it
         s.FileNew(2);
         EXPECT_EQ(f.host.shown.size(), c.answer ? 1u : 0u);
         EXPECT_EQ(s.Current().SizeCode, c.replaced ? 3 : 2);
-        EXPECT_EQ(Row(s.PicIcon, 1, 1, 1), c.replaced ? "g" : "r");
+        EXPECT_EQ(Row(s.Icon().Composed(), 1, 1, 1), c.replaced ? "g" : "r");
         EXPECT_EQ(s.Current().Changed, !c.replaced && c.changed);
-        EXPECT_EQ(SamePixels(s.picDisp, disp), !c.replaced);
+        EXPECT_EQ(SamePixels(s.View().Disp(), disp), !c.replaced);
     }
 }
 
 TEST(Gridlines, EachItemTicksItsModeAndTheTickedOneTogglesOff) {
     Fixture f;
     Session& s = f.session;
-    const Surface before = s.picDisp;
+    const Surface before = s.View().Disp();
     s.ClickGridline(0);  // no icon yet: unticks the light grid of the load, draws nothing
-    EXPECT_EQ(s.GridColor, tools::kGridNone);
-    EXPECT_TRUE(SamePixels(s.picDisp, before));
+    EXPECT_EQ(s.View().GridColor(), tools::kGridNone);
+    EXPECT_TRUE(SamePixels(s.View().Disp(), before));
     EXPECT_EQ(f.host.refreshCount, 0);
     s.FileNew(1);  // 16x16, no grid: the quarter's border lines fall on gray and stay gray
-    EXPECT_TRUE(AllOf(s.picDisp, kTransparentGray));
+    EXPECT_TRUE(AllOf(s.View().Disp(), kTransparentGray));
 
     const struct {
         int item;
@@ -227,9 +227,9 @@ TEST(Gridlines, EachItemTicksItsModeAndTheTickedOneTogglesOff) {
     };
     for (const auto& st : steps) {
         s.ClickGridline(st.item);
-        EXPECT_EQ(s.Form.GridlineChecked, st.checked) << st.item;
-        EXPECT_EQ(s.GridColor, st.grid) << st.item;
-        EXPECT_EQ(s.picDisp.GetPixel(12, 5), st.onLine) << st.item;
+        EXPECT_EQ(s.Form().GridlineChecked, st.checked) << st.item;
+        EXPECT_EQ(s.View().GridColor(), st.grid) << st.item;
+        EXPECT_EQ(s.View().Disp().GetPixel(12, 5), st.onLine) << st.item;
     }
 }
 

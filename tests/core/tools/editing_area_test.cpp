@@ -38,7 +38,7 @@ TEST_F(EditingArea, GridMatchesEveryModeAndSize) {
     const int steps[] = {12, 12, 8}, sides[] = {16, 32, 48};
     for (int k = 0; k < 3; ++k)
         for (Color mode : {kGridLight, kGridDark, kGridDotted, kGridNone}) {
-            Surface& grid = session.PicGrid;
+            Surface grid = session.View().Grid();
             grid.Fill(0x123456);  // an earlier grid must not show through
             BuildGrid(grid, sides[k], steps[k], mode);
             int wrong = 0;
@@ -60,11 +60,12 @@ TEST_F(EditingArea, SixteenBySixteenGridCornerAt192) {
         {kGridNone, {"..e..", "..e..", "ee...", ".....", "....."}},
     };
     for (const auto& c : cases) {
-        BuildGrid(session.PicGrid, 16, 12, c.mode);
+        Surface grid = session.View().Grid();
+        BuildGrid(grid, 16, 12, c.mode);
         std::vector<std::string> got(5);
         for (int y = 0; y < 5; ++y)
             for (int x = 0; x < 5; ++x) {
-                const Color p = session.PicGrid.GetPixel(190 + x, 190 + y);
+                const Color p = grid.GetPixel(190 + x, 190 + y);
                 got[static_cast<std::size_t>(y)] += p == kWhite ? '.' : p == kGridLight ? 'L'
                                                   : p == kGridDotted ? 'd'
                                                   : p == kGridForeColor ? 'e' : '?';
@@ -87,7 +88,7 @@ TEST_F(EditingArea, MagnifiedIconIsSolidBlocksUnderTheGrid) {
         Surface icon(c.side, c.side, kGray);
         for (int y = 0; y < c.side; ++y)
             for (int x = 0; x < c.side; ++x) icon.SetPixelV(x, y, surface::Rgb(x * 5, y * 5, 9));
-        Surface &grid = session.PicGrid, &disp = session.picDisp;
+        Surface grid = session.View().Grid(), disp = session.View().Disp();
         BuildGrid(grid, c.side, c.step, c.mode);
         if (c.mode == kGridNone) grid.Fill(0x7F7F7F);
         disp.Fill(0x0000FF);  // what an earlier, larger icon left
@@ -123,14 +124,15 @@ TEST_F(EditingArea, RegionOutlineIsADottedInvertBoxThatUndoesItself) {
         SCOPED_TRACE(::testing::Message() << c.sizeCode << ": " << q.Left << "," << q.Top << " "
                                           << q.Right << "," << q.Bottom);
         session.FileNew(c.entry);
-        const Surface before = session.picDisp;
-        DrawRegionOutline(session.picDisp, q, c.sizeCode);
+        Surface disp = session.View().Disp();
+        const Surface before = disp;
+        DrawRegionOutline(disp, q, c.sizeCode);
         const int r = q.Right == 384 ? 383 : q.Right, b = q.Bottom == 384 ? 383 : q.Bottom;
         const int limit = c.sizeCode == 1 ? 192 : 383;  // the last column and row that show
         int stray = 0, seen[4] = {};                     // left, top, right, bottom
         for (int y = 0; y < kDispSide; ++y)
             for (int x = 0; x < kDispSide; ++x) {
-                const Color was = before.GetPixel(x, y), now = session.picDisp.GetPixel(x, y);
+                const Color was = before.GetPixel(x, y), now = disp.GetPixel(x, y);
                 if (was == now) continue;
                 const bool edge = x == q.Left || x == r || y == q.Top || y == b;
                 stray += !edge || now != (was ^ kWhite) || x > limit || y > limit;
@@ -141,10 +143,10 @@ TEST_F(EditingArea, RegionOutlineIsADottedInvertBoxThatUndoesItself) {
         EXPECT_EQ(seen[2] > 0, r <= limit);
         EXPECT_EQ(seen[3] > 0, b <= limit);
         for (int i = 0; i < 6; ++i)  // dotted: three pixels inverted, three left alone
-            EXPECT_EQ(session.picDisp.GetPixel(q.Left + i, q.Top) !=
+            EXPECT_EQ(disp.GetPixel(q.Left + i, q.Top) !=
                           before.GetPixel(q.Left + i, q.Top), i < 3) << i;
-        DrawRegionOutline(session.picDisp, q, c.sizeCode);
-        EXPECT_TRUE(SamePixels(session.picDisp, before));
+        DrawRegionOutline(disp, q, c.sizeCode);
+        EXPECT_TRUE(SamePixels(disp, before));
     }
 }
 
@@ -163,7 +165,7 @@ TEST_F(EditingArea, Readouts) {
 
     session.FileNew(2);  // 48x48: 8 pixels a cell
     session.PointerOverDisp(31, 59);
-    EXPECT_EQ(session.Form.Status.DispXY, "X=3  Y=7");
+    EXPECT_EQ(session.Form().Status.DispXY, "X=3  Y=7");
 }
 
 }  // namespace

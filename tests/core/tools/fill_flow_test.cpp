@@ -29,7 +29,7 @@ protected:
     int Painted() const {
         int n = 0;
         for (int x = 0; x < 32; ++x)
-            for (int y = 0; y < 32; ++y) n += s.picMask.GetPixel(x, y) == 0;
+            for (int y = 0; y < 32; ++y) n += s.Icon().Mask().GetPixel(x, y) == 0;
         return n;
     }
     ScriptedHost host;
@@ -37,39 +37,39 @@ protected:
 };
 
 TEST_F(FillFlowTest, FillStaysInsideABoxAndReplaceReachesEveryArea) {
-    s.SelectedColor = 0x0000FF;
+    s.SetSelectedColor(0x0000FF);
     s.ClickTool(Tool::Rectangle);
     Drag(2, 2, 8, 8);    // a box with an inside of 5x5
     Drag(20, 2, 26, 8);  // another one apart from it
     const int undo = s.UndoCount();
-    s.SelectedColor = 0x00FF00;
+    s.SetSelectedColor(0x00FF00);
     s.ClickTool(Tool::Fill);
     Click(5, 5);
-    EXPECT_EQ(s.picImage.GetPixel(5, 5), 0x00FF00u);
-    EXPECT_EQ(s.picImage.GetPixel(23, 5), 0u);  // the other box's inside: not reached
-    EXPECT_EQ(s.picImage.GetPixel(2, 2), 0x0000FFu);
+    EXPECT_EQ(s.Icon().Image().GetPixel(5, 5), 0x00FF00u);
+    EXPECT_EQ(s.Icon().Image().GetPixel(23, 5), 0u);  // the other box's inside: not reached
+    EXPECT_EQ(s.Icon().Image().GetPixel(2, 2), 0x0000FFu);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
 
-    s.SelectedColor = 0xFF0000;
+    s.SetSelectedColor(0xFF0000);
     s.ClickTool(Tool::ReplaceColor);
     Click(2, 2);  // the red of both boxes
-    EXPECT_EQ(s.picImage.GetPixel(2, 2), 0xFF0000u);
-    EXPECT_EQ(s.picImage.GetPixel(26, 8), 0xFF0000u);
-    EXPECT_EQ(s.picImage.GetPixel(5, 5), 0x00FF00u);
+    EXPECT_EQ(s.Icon().Image().GetPixel(2, 2), 0xFF0000u);
+    EXPECT_EQ(s.Icon().Image().GetPixel(26, 8), 0xFF0000u);
+    EXPECT_EQ(s.Icon().Image().GetPixel(5, 5), 0x00FF00u);
 }
 
 TEST_F(FillFlowTest, ShiftFillOnATransparentPixelChangesNothingButSnapshots) {
     s.ClickTool(Tool::Fill);
-    const surface::Surface before = s.picImage;
+    const surface::Surface before = s.Icon().Image();
     const int undo = s.UndoCount();
     Click(10, 10, true);
-    EXPECT_TRUE(SamePixels(s.picImage, before));
+    EXPECT_TRUE(SamePixels(s.Icon().Image(), before));
     EXPECT_EQ(s.UndoCount(), undo + 1);
 }
 
 TEST_F(FillFlowTest, ASpotlightOfThreeCellsIsNineByNineAndPainted) {
-    s.SelectedColor = 0x00FFFF;
+    s.SetSelectedColor(0x00FFFF);
     s.ClickTool(Tool::Spotlight);
     Drag(10, 10, 13, 13);
     // The 9x9 spot from the press point, less its rounded corners, painted on transparent cells.
@@ -77,7 +77,7 @@ TEST_F(FillFlowTest, ASpotlightOfThreeCellsIsNineByNineAndPainted) {
     EXPECT_LE(Painted(), 81);
     for (int x = 0; x < 32; ++x)
         for (int y = 0; y < 32; ++y)
-            if (s.picMask.GetPixel(x, y) == 0) {
+            if (s.Icon().Mask().GetPixel(x, y) == 0) {
                 EXPECT_TRUE(x >= 10 && x <= 18 && y >= 10 && y <= 18) << x << "," << y;
             }
     EXPECT_EQ(s.UndoCount(), 2);

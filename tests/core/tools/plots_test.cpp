@@ -30,8 +30,8 @@ std::string Planes(const Session& s, int x0, int y0, int w, int h) {
     std::string out;
     for (int y = y0; y < y0 + h; ++y) {
         for (int x = x0; x < x0 + w; ++x) {
-            const Color i = s.picImage.GetPixel(x, y), m = s.picMask.GetPixel(x, y);
-            out += m == 0 ? (i == s.SelectedColor ? '#' : 'o')
+            const Color i = s.Icon().Image().GetPixel(x, y), m = s.Icon().Mask().GetPixel(x, y);
+            out += m == 0 ? (i == s.SelectedColor() ? '#' : 'o')
                  : m != 0xFFFFFF ? '?' : i == 0 ? '.' : 'i';
         }
         out += '\n';
@@ -50,11 +50,11 @@ struct Editor {
         s.Load(1024, 768);
         s.RunFirstActivation("", nullptr);
         s.FileNew(entry);
-        s.SelectedColor = kRed;
+        s.SetSelectedColor(kRed);
     }
-    int Px(int cell) const { return cell * s.MagnifyStep + s.MagnifyStep / 2; }
+    int Px(int cell) const { return cell * s.View().MagnifyStep() + s.View().MagnifyStep() / 2; }
     void Use(Tool t, int brush) {
-        if (s.Form.SelectedTool != t) s.ClickTool(t);
+        if (s.Form().SelectedTool != t) s.ClickTool(t);
         s.ClickBrushSize(brush - 1);
     }
     // Press in cell a, move to b, release in b (or in the cell given).
@@ -93,8 +93,8 @@ TEST(Plots, PaintAndEraseBrushSquareGrowsRightAndDownAndIsCutAtTheEdge) {
                                           << " at " << c.cell.x << "," << c.cell.y);
         Editor e;
         if (c.tool == Tool::Erase) {
-            e.s.picImage.Fill(kRed);
-            e.s.picMask.Fill(0);
+            e.s.Icon().Image().Fill(kRed);
+            e.s.Icon().Mask().Fill(0);
         }
         e.Use(c.tool, c.brush);
         e.Drag(c.cell, {}, c.cell);
@@ -128,8 +128,8 @@ TEST(Plots, LineToItselfAndBrokenLine) {
         const int w = static_cast<int>(c.picture.find('\n'));
         const int h = static_cast<int>(c.picture.size()) / (w + 1);
         EXPECT_EQ(Planes(e.s, 1, 2, w, h), c.picture);
-        EXPECT_EQ(e.s.picImage.DrawWidth, 1);  // the planes' pens are back to width 1, solid
-        EXPECT_EQ(e.s.picMask.DrawStyle, surface::kDrawStyleSolid);
+        EXPECT_EQ(e.s.Icon().Image().DrawWidth, 1);  // the planes' pens are back to width 1, solid
+        EXPECT_EQ(e.s.Icon().Mask().DrawStyle, surface::kDrawStyleSolid);
     }
 }
 
@@ -203,9 +203,9 @@ TEST(Plots, AnOvalWithNoHorizontalExtentPlotsNothingButIsStillAnUndoStep) {
 // The rectangle of painted pixels as "left,top-right,bottom".
 std::string PaintedBox(const Session& s) {
     int l = 99, t = 99, r = -1, b = -1;
-    for (int y = 0; y < s.picMask.Height(); ++y) {
-        for (int x = 0; x < s.picMask.Width(); ++x) {
-            if (s.picMask.GetPixel(x, y) != 0) continue;
+    for (int y = 0; y < s.Icon().Mask().Height(); ++y) {
+        for (int x = 0; x < s.Icon().Mask().Width(); ++x) {
+            if (s.Icon().Mask().GetPixel(x, y) != 0) continue;
             l = std::min(l, x), t = std::min(t, y), r = std::max(r, x), b = std::max(b, y);
         }
     }
@@ -267,7 +267,7 @@ TEST(Plots, ShapesPaintOverTransparentAndInvertingPixels) {
         for (int brush : {1, 2, 3, 6}) {
             SCOPED_TRACE(::testing::Message() << tools::ToolTooltip(tool) << ", brush " << brush);
             Editor e;
-            e.s.picImage.FillBox(8, 0, 15, 15, kGreen);
+            e.s.Icon().Image().FillBox(8, 0, 15, 15, kGreen);
             e.s.ComposeIcon();
             const std::string before = Planes(e.s, 0, 0, 16, 16);
             e.Use(tool, brush);

@@ -30,7 +30,7 @@ std::string Planes(const Session& s, int x0, int y0, int w, int h) {
     std::string out;
     for (int y = y0; y < y0 + h; ++y) {
         for (int x = x0; x < x0 + w; ++x) {
-            const Color i = s.picImage.GetPixel(x, y), m = s.picMask.GetPixel(x, y);
+            const Color i = s.Icon().Image().GetPixel(x, y), m = s.Icon().Mask().GetPixel(x, y);
             out += m == 0xFFFFFF && i == 0 ? '.'
                  : m != 0 ? '?' : i == kRed ? 'r' : i == kBlue ? 'b' : '?';
         }
@@ -48,11 +48,11 @@ protected:
     // File New, which leaves Paint selected.
     void New(int entry = 1) {
         s.FileNew(entry);
-        s.SelectedColor = kRed;
-        EXPECT_EQ(s.Form.SelectedTool, Tool::Paint);
+        s.SetSelectedColor(kRed);
+        EXPECT_EQ(s.Form().SelectedTool, Tool::Paint);
     }
     // The middle of a cell in picDisp pixels.
-    int Px(int cell) const { return cell * s.MagnifyStep + s.MagnifyStep / 2; }
+    int Px(int cell) const { return cell * s.View().MagnifyStep() + s.View().MagnifyStep() / 2; }
     void Click(int cx, int cy) {
         s.PointerPressed(B::Left, Px(cx), Px(cy));
         s.PointerReleased(Px(cx), Px(cy), false);
@@ -77,7 +77,7 @@ TEST_F(Pointer, TheRightButtonOnlyReleases) {
     s.PointerPressed(B::Left, Px(1), Px(1));
     s.PointerMoved(Px(3), Px(3), false);
     s.PointerReleased(Px(3), Px(3), false);
-    s.SelectedColor = kBlue;
+    s.SetSelectedColor(kBlue);
     s.PointerPressed(B::Right, Px(8), Px(8));
     s.PointerMoved(Px(10), Px(9), false);
     s.PointerReleased(Px(10), Px(9), false);
@@ -97,7 +97,7 @@ TEST_F(Pointer, AReleaseOutsideTheIconStillRunsTheTool) {
     EXPECT_EQ(s.UndoCount(), 2);
 
     s.ClickTool(Tool::Paint);
-    EXPECT_EQ(s.Form.SelectedTool, Tool::Paint);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::Paint);
     s.PointerPressed(B::Left, Px(0), Px(5));
     s.PointerReleased(192, 0, false);
     EXPECT_EQ(s.UndoCount(), 3);
@@ -117,7 +117,7 @@ TEST_F(Pointer, WhereTheIconsPartEnds) {
         SCOPED_TRACE(::testing::Message() << c.entry << " at " << c.x << "," << c.y);
         New(c.entry);
         s.PointerMoved(c.x, c.y, false);
-        EXPECT_EQ(s.Form.Status.DispXY.empty(), !c.inside);
+        EXPECT_EQ(s.Form().Status.DispXY.empty(), !c.inside);
         s.PointerPressed(B::Left, c.x, c.y);
         EXPECT_EQ(Planes(s, c.nearest.x, c.nearest.y, 1, 1), c.inside ? "r\n" : ".\n");
         s.PointerReleased(c.x, c.y, false);
@@ -128,22 +128,22 @@ TEST_F(Pointer, WhereTheIconsPartEnds) {
 TEST_F(Pointer, SelectingTools) {
     New();
     s.ClickTool(Tool::Line);
-    EXPECT_EQ(s.Form.SelectedTool, Tool::Line);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::Line);
     s.ClickTool(Tool::Oval);  // another tool replaces it
-    EXPECT_EQ(s.Form.SelectedTool, Tool::Oval);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::Oval);
     s.ClickTool(Tool::Oval);  // a second click turns it off
-    EXPECT_EQ(s.Form.SelectedTool, Tool::None);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::None);
     s.PointerPressed(B::Left, Px(2), Px(2));
     s.PointerReleased(Px(2), Px(2), false);
     EXPECT_EQ(s.UndoCount(), 1);
 
     s.ShowFrame(Frame::EffectsShades);
     s.ClickColorPicker();
-    ASSERT_TRUE(s.Form.ColorPickerSelected);
+    ASSERT_TRUE(s.Form().ColorPickerSelected);
     s.ClickTool(Tool::Paint);
-    EXPECT_EQ(s.Form.VisibleFrame, Frame::ColorsPanel);
-    EXPECT_EQ(s.Form.SelectedTool, Tool::Paint);
-    EXPECT_FALSE(s.Form.ColorPickerSelected);
+    EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::Paint);
+    EXPECT_FALSE(s.Form().ColorPickerSelected);
     EXPECT_TRUE(host.shown.empty());
 }
 
@@ -158,8 +158,8 @@ TEST_F(Pointer, WithNoIconToolClicksSaySoAndThePointerDoesNothing) {
         EXPECT_EQ(m.text, "No icon in Editing Area yet");
         EXPECT_EQ(m.title, "Vexlo");
     }
-    EXPECT_EQ(s.Form.SelectedTool, Tool::None);
-    EXPECT_FALSE(s.Form.ColorPickerSelected);
+    EXPECT_EQ(s.Form().SelectedTool, Tool::None);
+    EXPECT_FALSE(s.Form().ColorPickerSelected);
     s.PointerPressed(B::Left, 10, 10);
     s.PointerMoved(20, 20, false);
     s.PointerReleased(20, 20, false);
@@ -193,22 +193,22 @@ TEST_F(Pointer, PaintUndoSteps) {
 // The picker takes what picDisp shows, grid line included, and is no edit.
 TEST_F(Pointer, TheColorPickerTakesTheDisplayedPixel) {
     New();
-    s.picImage.SetPixelV(1, 1, 0xFFFFFF);
-    s.picMask.SetPixelV(1, 1, 0);
+    s.Icon().Image().SetPixelV(1, 1, 0xFFFFFF);
+    s.Icon().Mask().SetPixelV(1, 1, 0);
     s.ComposeIcon();
     s.MagnifyIcon();
     s.ClickColorPicker();
     s.PointerPressed(B::Left, 18, 18);
-    EXPECT_EQ(s.SelectedColor, kRed);
+    EXPECT_EQ(s.SelectedColor(), kRed);
     s.PointerReleased(18, 18, false);  // inside cell (1, 1)
-    EXPECT_EQ(s.SelectedColor, 0xFFFFFFu);
+    EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);
     s.PointerReleased(12, 18, false);  // its left edge is a grid line
-    EXPECT_EQ(s.SelectedColor, tools::kGridLight);
+    EXPECT_EQ(s.SelectedColor(), tools::kGridLight);
     s.PointerReleased(30, 30, false);  // transparent cell (2, 2)
-    EXPECT_EQ(s.SelectedColor, session::kTransparentGray);
+    EXPECT_EQ(s.SelectedColor(), session::kTransparentGray);
     EXPECT_EQ(s.UndoCount(), 1);
     EXPECT_FALSE(s.Current().Changed);
-    EXPECT_TRUE(s.Form.ColorPickerSelected);
+    EXPECT_TRUE(s.Form().ColorPickerSelected);
 }
 
 }  // namespace

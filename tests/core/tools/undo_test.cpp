@@ -18,15 +18,15 @@ protected:
     }
     // One edit as the tools end it: the planes change, then compose, magnify, snapshot.
     void Edit(int x, int y, Color image, Color mask) {
-        s.picImage.SetPixelV(x, y, image);
-        s.picMask.SetPixelV(x, y, mask);
+        s.Icon().Image().SetPixelV(x, y, image);
+        s.Icon().Mask().SetPixelV(x, y, mask);
         s.ComposeIcon();
         s.MagnifyIcon();
         s.Current().Changed = true;
         s.TakeUndoSnapshot();
     }
     std::pair<Color, Color> Planes(int x, int y) {
-        return {s.picImage.GetPixel(x, y), s.picMask.GetPixel(x, y)};
+        return {s.Icon().Image().GetPixel(x, y), s.Icon().Mask().GetPixel(x, y)};
     }
 
     ScriptedHost host;
@@ -52,7 +52,7 @@ TEST_F(UndoTest, UndoThenRedoRestoresBothPlanesOfAnInvertingPixel) {
     Edit(3, 4, 0x000000, 0xFFFFFF);  // transparent again
     s.UndoStep();
     EXPECT_EQ(Planes(3, 4), std::make_pair(Color{0x00FF00}, Color{0xFFFFFF}));
-    EXPECT_EQ(s.PicIcon.GetPixel(3, 4), 0xC0C0C0u ^ 0x00FF00u);
+    EXPECT_EQ(s.Icon().Composed().GetPixel(3, 4), 0xC0C0C0u ^ 0x00FF00u);
     s.RedoStep();
     EXPECT_EQ(Planes(3, 4), std::make_pair(Color{0}, Color{0xFFFFFF}));
     s.UndoStep();
@@ -77,7 +77,7 @@ TEST_F(UndoTest, UndoAllGoesToTheFirstEntryAndCannotBeRedone) {
     s.UndoAll();
     EXPECT_EQ(s.UndoCount(), 1);
     EXPECT_EQ(s.RedoCount(), 0);
-    EXPECT_EQ(s.Undo().RunningNumber(), 1);
+    EXPECT_EQ(s.Icon().History().RunningNumber(), 1);
     EXPECT_EQ(Planes(0, 0), std::make_pair(Color{0}, Color{0xFFFFFF}));
 }
 
