@@ -24,7 +24,6 @@ Session::Session(Host& host)
       picAuto(32, 32, kWhite),
       picColorChart{Surface(256, 48, kWhite), Surface(160, 40, kWhite), Surface(32, 32, kWhite)},
       m_host(host) {
-    PicGrid.ForeColor = tools::kGridForeColor;
     for (int i = 0; i < kSlotCount; ++i) {
         picPanelIcon[static_cast<std::size_t>(i)] = Surface(32, 32, kTransparentGray);
         picPanelMask[static_cast<std::size_t>(i)] = Surface(32, 32, kWindowColor);

@@ -30,17 +30,14 @@ void Session::PlotPaintErase(bool erase) {
 }
 
 void Session::PlotShape(Tool t) {
-    picDisp.DrawMode = surface::kDrawModeCopyPen;
-    picDisp.DrawStyle = surface::kDrawStyleSolid;
-    const int notedWidth = picImage.DrawWidth;
-    const int width = t == Tool::BrokenLine ? 1 : BrushNumber();
-    picImage.DrawWidth = width;
-    picMask.DrawWidth = width;
+    const bool broken = t == Tool::BrokenLine;
+    const surface::Pen pen{.Width = broken ? 1 : BrushNumber(),
+                           .Style = broken ? surface::kDrawStyleDot : surface::kDrawStyleSolid};
     const tools::CellRect& r = Draw.Shape;
     switch (t) {
         case Tool::Line:
-            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor, pen);
+            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             if (BrushNumber() == 1) {
                 // The pen leaves out the end point; a one-pixel line gets it.
                 picImage.SetPixelV(r.Right, r.Bottom, SelectedColor);
@@ -48,26 +45,19 @@ void Session::PlotShape(Tool t) {
             }
             break;
         case Tool::BrokenLine:
-            picImage.DrawStyle = surface::kDrawStyleDot;
-            picMask.DrawStyle = surface::kDrawStyleDot;
-            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            picImage.Line(r.Left, r.Top, r.Right, r.Bottom, SelectedColor, pen);
+            picMask.Line(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             break;
         case Tool::Rectangle:
-            picImage.FillStyle = surface::kFillStyleTransparent;
-            picMask.FillStyle = surface::kFillStyleTransparent;
-            picImage.FillColor = SelectedColor;
-            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor, pen);
+            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             break;
         case Tool::FilledRectangle:
-            picImage.FillStyle = surface::kFillStyleSolid;
-            picMask.FillStyle = surface::kFillStyleSolid;
-            picImage.FillColor = SelectedColor;
             // The filled box in the selected color takes the same pen as the mask's box, so
             // that a wide brush covers the same pixels in both planes.
-            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor);
-            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, picMask.ForeColor);
+            picImage.Box(r.Left, r.Top, r.Right, r.Bottom, SelectedColor, pen,
+                         surface::SolidBrush(SelectedColor));
+            picMask.Box(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen, surface::SolidBrush(kBlack));
             break;
         case Tool::Oval:
         case Tool::FilledOval:
@@ -80,38 +70,28 @@ void Session::PlotShape(Tool t) {
         default:
             break;
     }
-    picImage.DrawWidth = notedWidth;
-    picMask.DrawWidth = notedWidth;
-    picImage.DrawStyle = surface::kDrawStyleSolid;
-    picMask.DrawStyle = surface::kDrawStyleSolid;
 }
 
 void Session::PlotOval(bool filled) {
+    const surface::Pen pen{.Width = BrushNumber()};  // the outline's, as PlotShape takes it
     const tools::CellRect& r = Draw.Shape;
     const int width = tools::ShapeGeometry(r.Left, r.Top, r.Right, r.Bottom, Draw);
     m_host.DoEvents();
     if (width <= 0) return;
-    for (Surface* plane : {&picImage, &picMask}) plane->DrawMode = surface::kDrawModeCopyPen;
-    picImage.FillColor = SelectedColor;
-    picMask.FillColor = kBlack;
     const double cx = Draw.OvalCenterX, cy = Draw.OvalCenterY, radius = Draw.OvalRadius;
     const double aspect = Draw.OvalAspect;
     if (!filled) {
-        picImage.FillStyle = surface::kFillStyleTransparent;
-        picMask.FillStyle = surface::kFillStyleTransparent;
         // Two arcs close the ellipse; 6 is the whole number that 2 pi rounds to.
-        picImage.CircleArc(cx, cy, radius, SelectedColor, 0, 6, aspect);
-        picMask.CircleArc(cx, cy, radius, kBlack, 0, 6, aspect);
-        picImage.CircleArc(cx, cy, radius, SelectedColor, 6, 0, aspect);
-        picMask.CircleArc(cx, cy, radius, kBlack, 6, 0, aspect);
+        picImage.CircleArc(cx, cy, radius, SelectedColor, 0, 6, aspect, pen);
+        picMask.CircleArc(cx, cy, radius, kBlack, 0, 6, aspect, pen);
+        picImage.CircleArc(cx, cy, radius, SelectedColor, 6, 0, aspect, pen);
+        picMask.CircleArc(cx, cy, radius, kBlack, 6, 0, aspect, pen);
         return;
     }
-    picImage.FillStyle = surface::kFillStyleSolid;
-    picMask.FillStyle = surface::kFillStyleSolid;
-    picImage.DrawWidth = 2;
-    picMask.DrawWidth = 2;
-    picImage.Circle(cx, cy, radius, SelectedColor, aspect);
-    picMask.Circle(cx, cy, radius, kBlack, aspect);
+    constexpr surface::Pen kFilledOvalPen{.Width = 2};
+    picImage.Circle(cx, cy, radius, SelectedColor, aspect, kFilledOvalPen,
+                    surface::SolidBrush(SelectedColor));
+    picMask.Circle(cx, cy, radius, kBlack, aspect, kFilledOvalPen, surface::SolidBrush(kBlack));
 }
 
 }  // namespace vexlo::session

@@ -134,12 +134,8 @@ void Session::PointerReleased(int x, int y, bool shiftDown) {
 
 void Session::DrawOvalBand() {
     if (tools::ShapeGeometry(Band.Left, Band.Top, Band.Right, Band.Bottom, Draw) <= 0) return;
-    picDisp.DrawMode = surface::kDrawModeInvert;
-    picDisp.DrawStyle = surface::kDrawStyleDot;
-    picDisp.Circle(Draw.OvalCenterX, Draw.OvalCenterY, Draw.OvalRadius, picDisp.ForeColor,
-                   Draw.OvalAspect);
-    picDisp.DrawMode = surface::kDrawModeCopyPen;
-    picDisp.DrawStyle = surface::kDrawStyleSolid;
+    picDisp.Circle(Draw.OvalCenterX, Draw.OvalCenterY, Draw.OvalRadius, kBlack, Draw.OvalAspect,
+                   surface::kDottedInvertPen);
 }
 
 }  // namespace vexlo::session
