@@ -30,17 +30,14 @@ void Session::PlotPaintErase(bool erase) {
 }
 
 void Session::PlotShape(Tool t) {
-    m_view.Disp().DrawMode = surface::kDrawModeCopyPen;
-    m_view.Disp().DrawStyle = surface::kDrawStyleSolid;
-    const int notedWidth = m_icon.Image().DrawWidth;
-    const int width = t == Tool::BrokenLine ? 1 : BrushNumber();
-    m_icon.Image().DrawWidth = width;
-    m_icon.Mask().DrawWidth = width;
+    const bool broken = t == Tool::BrokenLine;
+    const surface::Pen pen{.Width = broken ? 1 : BrushNumber(),
+                           .Style = broken ? surface::kDrawStyleDot : surface::kDrawStyleSolid};
     const tools::CellRect& r = m_draw.Shape;
     switch (t) {
         case Tool::Line:
-            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
-            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor, pen);
+            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             if (BrushNumber() == 1) {
                 // The pen leaves out the end point; a one-pixel line gets it.
                 m_icon.Image().SetPixelV(r.Right, r.Bottom, m_selectedColor);
@@ -48,26 +45,19 @@ void Session::PlotShape(Tool t) {
             }
             break;
         case Tool::BrokenLine:
-            m_icon.Image().DrawStyle = surface::kDrawStyleDot;
-            m_icon.Mask().DrawStyle = surface::kDrawStyleDot;
-            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
-            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack);
+            m_icon.Image().Line(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor, pen);
+            m_icon.Mask().Line(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             break;
         case Tool::Rectangle:
-            m_icon.Image().FillStyle = surface::kFillStyleTransparent;
-            m_icon.Mask().FillStyle = surface::kFillStyleTransparent;
-            m_icon.Image().FillColor = m_selectedColor;
-            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
-            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, m_icon.Mask().ForeColor);
+            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor, pen);
+            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen);
             break;
         case Tool::FilledRectangle:
-            m_icon.Image().FillStyle = surface::kFillStyleSolid;
-            m_icon.Mask().FillStyle = surface::kFillStyleSolid;
-            m_icon.Image().FillColor = m_selectedColor;
             // The filled box in the selected color takes the same pen as the mask's box, so
             // that a wide brush covers the same pixels in both planes.
-            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor);
-            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, m_icon.Mask().ForeColor);
+            m_icon.Image().Box(r.Left, r.Top, r.Right, r.Bottom, m_selectedColor, pen,
+                         surface::SolidBrush(m_selectedColor));
+            m_icon.Mask().Box(r.Left, r.Top, r.Right, r.Bottom, kBlack, pen, surface::SolidBrush(kBlack));
             break;
         case Tool::Oval:
         case Tool::FilledOval:
@@ -80,38 +70,28 @@ void Session::PlotShape(Tool t) {
         default:
             break;
     }
-    m_icon.Image().DrawWidth = notedWidth;
-    m_icon.Mask().DrawWidth = notedWidth;
-    m_icon.Image().DrawStyle = surface::kDrawStyleSolid;
-    m_icon.Mask().DrawStyle = surface::kDrawStyleSolid;
 }
 
 void Session::PlotOval(bool filled) {
+    const surface::Pen pen{.Width = BrushNumber()};  // the outline's, as PlotShape takes it
     const tools::CellRect& r = m_draw.Shape;
     const int width = tools::ShapeGeometry(r.Left, r.Top, r.Right, r.Bottom, m_draw);
     LetPendingEventsRun();
     if (width <= 0) return;
-    for (Surface* plane : {&m_icon.Image(), &m_icon.Mask()}) plane->DrawMode = surface::kDrawModeCopyPen;
-    m_icon.Image().FillColor = m_selectedColor;
-    m_icon.Mask().FillColor = kBlack;
     const double cx = m_draw.OvalCenterX, cy = m_draw.OvalCenterY, radius = m_draw.OvalRadius;
     const double aspect = m_draw.OvalAspect;
     if (!filled) {
-        m_icon.Image().FillStyle = surface::kFillStyleTransparent;
-        m_icon.Mask().FillStyle = surface::kFillStyleTransparent;
         // Two arcs close the ellipse; 6 is the whole number that 2 pi rounds to.
-        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 0, 6, aspect);
-        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 0, 6, aspect);
-        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 6, 0, aspect);
-        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 6, 0, aspect);
+        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 0, 6, aspect, pen);
+        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 0, 6, aspect, pen);
+        m_icon.Image().CircleArc(cx, cy, radius, m_selectedColor, 6, 0, aspect, pen);
+        m_icon.Mask().CircleArc(cx, cy, radius, kBlack, 6, 0, aspect, pen);
         return;
     }
-    m_icon.Image().FillStyle = surface::kFillStyleSolid;
-    m_icon.Mask().FillStyle = surface::kFillStyleSolid;
-    m_icon.Image().DrawWidth = 2;
-    m_icon.Mask().DrawWidth = 2;
-    m_icon.Image().Circle(cx, cy, radius, m_selectedColor, aspect);
-    m_icon.Mask().Circle(cx, cy, radius, kBlack, aspect);
+    constexpr surface::Pen kFilledOvalPen{.Width = 2};
+    m_icon.Image().Circle(cx, cy, radius, m_selectedColor, aspect, kFilledOvalPen,
+                    surface::SolidBrush(m_selectedColor));
+    m_icon.Mask().Circle(cx, cy, radius, kBlack, aspect, kFilledOvalPen, surface::SolidBrush(kBlack));
 }
 
 }  // namespace vexlo::session

@@ -134,12 +134,8 @@ void Session::PointerReleased(int x, int y, bool shiftDown) {
 
 void Session::DrawOvalBand() {
     if (tools::ShapeGeometry(m_view.Band().Left, m_view.Band().Top, m_view.Band().Right, m_view.Band().Bottom, m_draw) <= 0) return;
-    m_view.Disp().DrawMode = surface::kDrawModeInvert;
-    m_view.Disp().DrawStyle = surface::kDrawStyleDot;
-    m_view.Disp().Circle(m_draw.OvalCenterX, m_draw.OvalCenterY, m_draw.OvalRadius, m_view.Disp().ForeColor,
-                   m_draw.OvalAspect);
-    m_view.Disp().DrawMode = surface::kDrawModeCopyPen;
-    m_view.Disp().DrawStyle = surface::kDrawStyleSolid;
+    m_view.Disp().Circle(m_draw.OvalCenterX, m_draw.OvalCenterY, m_draw.OvalRadius, kBlack, m_draw.OvalAspect,
+                   surface::kDottedInvertPen);
 }
 
 }  // namespace vexlo::session

@@ -9,10 +9,10 @@
 
 #include "core/surface/surface.h"
 
-namespace vexlo::surface::pen {
+namespace vexlo::surface::geometry {
 
 // The width a pen draws with: widths below 1 draw as 1.
-inline int EffectiveWidth(int drawWidth) { return std::max(drawWidth, 1); }
+inline int EffectiveWidth(int penWidth) { return std::max(penWidth, 1); }
 
 // How far an even-width line's segment is moved up and left so that its width falls on whole
 // pixels: half a pixel for an even width, nothing for an odd one.
@@ -85,4 +85,4 @@ void ForEachPixelIn(const Surface& s, double left, double top, double right, dou
         for (int x = x0; x <= x1; ++x) f(x, y);
 }
 
-}  // namespace vexlo::surface::pen
+}  // namespace vexlo::surface::geometry

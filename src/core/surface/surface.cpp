@@ -57,16 +57,17 @@ void Surface::Resize(int width, int height) {
 
 void Surface::Fill(Color c) { std::fill(m_pixels.begin(), m_pixels.end(), c & kRgbMask); }
 
-void Surface::PlotPen(int x, int y, Color c) {
+void Surface::PlotPen(int x, int y, Color c, const Pen& pen) {
     if (!Contains(x, y)) return;
     Color& p = m_pixels[Index(x, y)];
-    if (DrawMode == kDrawModeInvert)
+    if (pen.Mode == kDrawModeInvert)
         p = (p ^ kRgbMask) & kRgbMask;
     else
         p = c & kRgbMask;
 }
 
-void Surface::StyledLine(int x1, int y1, int x2, int y2, Color c, int* styleStep) {
+void Surface::StyledLine(int x1, int y1, int x2, int y2, Color c, const Pen& pen,
+                         int* styleStep) {
     const int dx = std::abs(x2 - x1);
     const int dy = std::abs(y2 - y1);
     const int sx = x1 < x2 ? 1 : -1;
@@ -81,8 +82,8 @@ void Surface::StyledLine(int x1, int y1, int x2, int y2, Color c, int* styleStep
     for (int k = 0; k < major; ++k) {
         const int x = xMajor ? x1 + sx * k : x1 + sx * mi;
         const int y = xMajor ? y1 + sy * mi : y1 + sy * k;
-        const bool on = DrawStyle != kDrawStyleDot || (*styleStep % kDotPeriod) < kDotOn;
-        if (on) PlotPen(x, y, c);
+        const bool on = pen.Style != kDrawStyleDot || (*styleStep % kDotPeriod) < kDotOn;
+        if (on) PlotPen(x, y, c, pen);
         ++*styleStep;
         err += 2 * minor;
         if (err > 2 * major) {
@@ -92,21 +93,21 @@ void Surface::StyledLine(int x1, int y1, int x2, int y2, Color c, int* styleStep
     }
 }
 
-void Surface::Line(int x1, int y1, int x2, int y2, Color c) {
-    if (DrawWidth > 1) {
-        WideLine(x1, y1, x2, y2, c);  // surface_pen.cpp
+void Surface::Line(int x1, int y1, int x2, int y2, Color c, const Pen& pen) {
+    if (pen.Width > 1) {
+        WideLine(x1, y1, x2, y2, c, pen);  // surface_pen.cpp
         return;
     }
     int step = 0;
-    StyledLine(x1, y1, x2, y2, c, &step);
+    StyledLine(x1, y1, x2, y2, c, pen, &step);
 }
 
-void Surface::Box(int x1, int y1, int x2, int y2, Color c) {
-    if (DrawWidth > 1) {
-        WideBox(x1, y1, x2, y2, c);  // surface_pen.cpp
+void Surface::Box(int x1, int y1, int x2, int y2, Color c, const Pen& pen, const Brush& brush) {
+    if (pen.Width > 1) {
+        WideBox(x1, y1, x2, y2, c, pen, brush);  // surface_pen.cpp
         return;
     }
-    if (FillStyle == kFillStyleSolid) FillBoxInterior(x1, y1, x2, y2);
+    if (brush.Style == kFillStyleSolid) FillBoxInterior(x1, y1, x2, y2, pen, brush);
     int step = 0;
     if (x1 == x2 || y1 == y2) {
         // A box of one row or column: every pixel once, both ends included.
@@ -114,26 +115,26 @@ void Surface::Box(int x1, int y1, int x2, int y2, Color c) {
         const int sx = x1 < x2 ? 1 : (x1 > x2 ? -1 : 0);
         const int sy = y1 < y2 ? 1 : (y1 > y2 ? -1 : 0);
         for (int k = 0; k <= n; ++k) {
-            const bool on = DrawStyle != kDrawStyleDot || (step % kDotPeriod) < kDotOn;
-            if (on) PlotPen(x1 + sx * k, y1 + sy * k, c);
+            const bool on = pen.Style != kDrawStyleDot || (step % kDotPeriod) < kDotOn;
+            if (on) PlotPen(x1 + sx * k, y1 + sy * k, c, pen);
             ++step;
         }
         return;
     }
     // One closed path: each side leaves out its end, which is the next side's start.
-    StyledLine(x1, y1, x2, y1, c, &step);
-    StyledLine(x2, y1, x2, y2, c, &step);
-    StyledLine(x2, y2, x1, y2, c, &step);
-    StyledLine(x1, y2, x1, y1, c, &step);
+    StyledLine(x1, y1, x2, y1, c, pen, &step);
+    StyledLine(x2, y1, x2, y2, c, pen, &step);
+    StyledLine(x2, y2, x1, y2, c, pen, &step);
+    StyledLine(x1, y2, x1, y1, c, pen, &step);
 }
 
-void Surface::FillBox(int x1, int y1, int x2, int y2, Color c) {
+void Surface::FillBox(int x1, int y1, int x2, int y2, Color c, const Pen& pen) {
     const int left = std::max(std::min(x1, x2), 0);
     const int right = std::min(std::max(x1, x2), m_width - 1);
     const int top = std::max(std::min(y1, y2), 0);
     const int bottom = std::min(std::max(y1, y2), m_height - 1);
     for (int y = top; y <= bottom; ++y)
-        for (int x = left; x <= right; ++x) PlotPen(x, y, c);
+        for (int x = left; x <= right; ++x) PlotPen(x, y, c, pen);
 }
 
 void ResizeSurface(Surface& s, int width, int height) { s.Resize(width, height); }
@@ -176,8 +177,7 @@ bool BitBlt(Surface& dst, int dx, int dy, int w, int h, const Surface& src, int 
 bool BitBlt(Surface& dst, int dx, int dy, int w, int h, Rop rop) {
     if (rop != Rop::Blackness) return false;
     if (w < 0 || h < 0) return false;
-    // A raster operation, not a pen: the DrawMode does not apply, and an empty size touches
-    // nothing.
+    // A raster operation, not a pen: nothing is inverted, and an empty size touches nothing.
     const long long left = std::max<long long>(dx, 0);
     const long long top = std::max<long long>(dy, 0);
     const long long right = std::min<long long>(static_cast<long long>(dx) + w, dst.Width());

@@ -1,4 +1,4 @@
-// Circle and CircleArc: ellipses with a real centre and radii, outlined at DrawWidth.
+// Circle and CircleArc: ellipses with a real centre and radii, outlined at the pen's width.
 //
 // Pixel rules, with rx, ry the horizontal and vertical radius and pixel (x, y) centred at (x, y):
 // - The shape of an ellipse is the set of pixels whose centre lies in the ellipse with half-axes
@@ -25,9 +25,10 @@
 //   together are the whole outline, and at width 1 they share no pixel. At width > 1 each end is
 //   rounded: the outline pixels within w/2 of the end's point on the middle of the outline (the
 //   ellipse with radii rx, ry, less 1/2 for an even width) are added.
-// - DrawStyle 2 at width 1 dots the outline (3 pixels on, 3 off) in counterclockwise order from
-//   the start angle (angle 0 for a whole ellipse), counting the outline pixels on the Surface.
-// - Each pixel is touched at most once per call: interior (FillStyle 0, never for arcs) and
+// - A dotted pen (kDrawStyleDot) at width 1 dots the outline (3 pixels on, 3 off) in
+//   counterclockwise order from the start angle (angle 0 for a whole ellipse), counting the
+//   outline pixels on the Surface.
+// - Each pixel is touched at most once per call: interior (solid brush, never for arcs) and
 //   outline are disjoint, so in invert mode the same call twice restores the Surface.
 #include "core/surface/surface.h"
 
@@ -73,7 +74,7 @@ Run SpanAbout(double c, double h, int width) {
         hi = std::floor(c + h);
         if (lo > hi) return {};
     }
-    return {pen::ClampedCeil(lo, -1, width), pen::ClampedFloor(hi, -1, width)};
+    return {geometry::ClampedCeil(lo, -1, width), geometry::ClampedFloor(hi, -1, width)};
 }
 
 // Half the width of the ellipse with half-axes a, b at row offset dy from its centre; negative
@@ -105,18 +106,20 @@ double PixelAngle(double cx, double cy, int x, int y) {
 
 }  // namespace
 
-void Surface::Circle(double cx, double cy, double radius, Color c, double aspect) {
-    DrawEllipse(cx, cy, radius, c, aspect, false, 0.0, 0.0);
+void Surface::Circle(double cx, double cy, double radius, Color c, double aspect, const Pen& pen,
+                     const Brush& brush) {
+    DrawEllipse(cx, cy, radius, c, aspect, false, 0.0, 0.0, pen, brush);
 }
 
 void Surface::CircleArc(double cx, double cy, double radius, Color c, double startAngle,
-                        double endAngle, double aspect) {
+                        double endAngle, double aspect, const Pen& pen) {
     if (!std::isfinite(startAngle) || !std::isfinite(endAngle)) return;
-    DrawEllipse(cx, cy, radius, c, aspect, true, startAngle, endAngle);
+    DrawEllipse(cx, cy, radius, c, aspect, true, startAngle, endAngle, pen, Brush{});
 }
 
 void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double aspect, bool isArc,
-                          double startAngle, double endAngle) {
+                          double startAngle, double endAngle, const Pen& pen,
+                          const Brush& brush) {
     if (!std::isfinite(cx) || !std::isfinite(cy) || !std::isfinite(radius) ||
         !std::isfinite(aspect))
         return;
@@ -124,7 +127,7 @@ void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double a
     aspect = std::fabs(aspect);
     const double rx = aspect <= 1 ? radius : radius / aspect;
     const double ry = aspect <= 1 ? radius * aspect : radius;
-    const int w = pen::EffectiveWidth(DrawWidth);
+    const int w = geometry::EffectiveWidth(pen.Width);
 
     const double start = isArc ? NormalAngle(startAngle) : 0.0;
     const double end = isArc ? NormalAngle(endAngle) : 0.0;
@@ -146,19 +149,19 @@ void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double a
     };
     const auto [sx, sy] = endPoint(start);
     const auto [ex, ey] = endPoint(end);
-    const pen::RoundStroke startCap(sx, sy, sx, sy, w), endCap(ex, ey, ex, ey, w);
+    const geometry::RoundStroke startCap(sx, sy, sx, sy, w), endCap(ex, ey, ex, ey, w);
     const bool caps = w > 1 && !whole;
 
-    const bool dotted = w == 1 && DrawStyle == kDrawStyleDot;
+    const bool dotted = w == 1 && pen.Style == kDrawStyleDot;
     std::vector<std::tuple<double, int, int>> dots;  // (angle from the start, y, x)
     auto outline = [&](int x, int y) {
         if (!inArc(x, y) && !(caps && (startCap.Covers(x, y) || endCap.Covers(x, y)))) return;
         if (dotted)
             dots.emplace_back(NormalAngle(PixelAngle(cx, cy, x, y) - start), y, x);
         else
-            PlotPen(x, y, c);
+            PlotPen(x, y, c, pen);
     };
-    const bool fill = !isArc && FillStyle == kFillStyleSolid;
+    const bool fill = !isArc && brush.Style == kFillStyleSolid;
     const int width = Width();
     auto runs = [&](int y, Run r, bool isOutline) {
         const int lo = std::max(r.lo, 0), hi = std::min(r.hi, width - 1);
@@ -166,18 +169,18 @@ void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double a
             if (isOutline)
                 outline(x, y);
             else if (fill)
-                PlotPen(x, y, FillColor);
+                PlotPen(x, y, brush.Fill, pen);
         }
     };
 
     if (w > 1 && ry == 0) {
         // Flat: the wide Line through the centre, both ends drawn.
-        const double o = pen::EvenShift(w);
-        const pen::RoundStroke line(cx - rx - o, cy - o, cx + rx - o, cy - o, w);
-        pen::ForEachPixelIn(*this, line.Left(), line.Top(), line.Right(), line.Bottom(),
-                            [&](int x, int y) {
-                                if (line.Covers(x, y)) outline(x, y);
-                            });
+        const double o = geometry::EvenShift(w);
+        const geometry::RoundStroke line(cx - rx - o, cy - o, cx + rx - o, cy - o, w);
+        geometry::ForEachPixelIn(*this, line.Left(), line.Top(), line.Right(), line.Bottom(),
+                                 [&](int x, int y) {
+                                     if (line.Covers(x, y)) outline(x, y);
+                                 });
     } else {
         const int k = (w - 1) / 2;
         const double a = rx + 0.5 + k, b = ry + 0.5 + k;  // the shape
@@ -185,8 +188,8 @@ void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double a
         auto span = [&](int y, double ha, double hb, bool reachBox) {
             return SpanAbout(cx, HalfWidth(ha, hb, y - cy, reachBox), width);
         };
-        const int y0 = pen::ClampedCeil(cy - b, 0, Height());
-        const int y1 = pen::ClampedFloor(cy + b, -1, Height() - 1);
+        const int y0 = geometry::ClampedCeil(cy - b, 0, Height());
+        const int y1 = geometry::ClampedFloor(cy + b, -1, Height() - 1);
         for (int y = y0; y <= y1; ++y) {
             const Run s = span(y, a, b, true);
             if (s.Empty()) continue;
@@ -214,7 +217,7 @@ void Surface::DrawEllipse(double cx, double cy, double radius, Color c, double a
         constexpr int kDotOn = 3, kDotPeriod = 6;
         for (std::size_t i = 0; i < dots.size(); ++i)
             if (static_cast<int>(i % kDotPeriod) < kDotOn)
-                PlotPen(std::get<2>(dots[i]), std::get<1>(dots[i]), c);
+                PlotPen(std::get<2>(dots[i]), std::get<1>(dots[i]), c, pen);
     }
 }
 

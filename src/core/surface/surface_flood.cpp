@@ -44,13 +44,13 @@ std::vector<std::uint8_t> FloodFillArea(const Surface& s, int x, int y, Color co
     return area;
 }
 
-bool ExtFloodFill(Surface& s, int x, int y, Color color, int fillType) {
+bool ExtFloodFill(Surface& s, int x, int y, Color color, int fillType, Color fill) {
     const std::vector<std::uint8_t> area = FloodFillArea(s, x, y, color, fillType);
     if (area.empty()) return false;
     Color* pixels = s.Data();
-    const Color fill = s.FillColor & kRgbMask;
+    const Color value = fill & kRgbMask;
     for (std::size_t i = 0; i < area.size(); ++i)
-        if (area[i] != 0) pixels[i] = fill;
+        if (area[i] != 0) pixels[i] = value;
     return true;
 }
 

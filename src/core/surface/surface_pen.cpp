@@ -1,4 +1,4 @@
-// Wide pens (DrawWidth > 1) for Line and Box, and the fill of a box.
+// Wide pens (Pen::Width > 1) for Line and Box, and the fill of a box.
 //
 // Pixel rules:
 // - A wide line of width w covers the pixels whose centre lies within w/2 of the segment
@@ -13,8 +13,9 @@
 //   pixel and its inner neighbour, so the outline is symmetric and the extra pixel lies inside
 //   (width 2: the two outermost rings of the box). A box without extent in one direction has
 //   no inside there, and that direction is drawn as a wide line is.
-// - With FillStyle 0 the pixels of the box (both corners included) that the outline leaves free
-//   get FillColor, under the DrawMode, before the outline; every pixel is touched once.
+// - With a solid brush the pixels of the box (both corners included) that the outline leaves
+//   free get the brush's Fill, under the pen's Mode, before the outline; every pixel is touched
+//   once.
 #include "core/surface/surface.h"
 
 #include <algorithm>
@@ -23,14 +24,14 @@
 
 namespace vexlo::surface {
 
-void Surface::WideLine(int x1, int y1, int x2, int y2, Color c) {
-    const int w = pen::EffectiveWidth(DrawWidth);
-    const double o = pen::EvenShift(w);
-    const pen::RoundStroke stroke(x1 - o, y1 - o, x2 - o, y2 - o, w);
-    pen::ForEachPixelIn(*this, stroke.Left(), stroke.Top(), stroke.Right(), stroke.Bottom(),
-                        [&](int x, int y) {
-                            if (stroke.Covers(x, y)) PlotPen(x, y, c);
-                        });
+void Surface::WideLine(int x1, int y1, int x2, int y2, Color c, const Pen& pen) {
+    const int w = geometry::EffectiveWidth(pen.Width);
+    const double o = geometry::EvenShift(w);
+    const geometry::RoundStroke stroke(x1 - o, y1 - o, x2 - o, y2 - o, w);
+    geometry::ForEachPixelIn(*this, stroke.Left(), stroke.Top(), stroke.Right(),
+                             stroke.Bottom(), [&](int x, int y) {
+                                 if (stroke.Covers(x, y)) PlotPen(x, y, c, pen);
+                             });
 }
 
 namespace {
@@ -49,40 +50,42 @@ Sides PathSides(int a1, int a2, int width) {
 
 }  // namespace
 
-void Surface::WideBox(int x1, int y1, int x2, int y2, Color c) {
-    const int w = pen::EffectiveWidth(DrawWidth);
+void Surface::WideBox(int x1, int y1, int x2, int y2, Color c, const Pen& pen,
+                      const Brush& brush) {
+    const int w = geometry::EffectiveWidth(pen.Width);
     const Sides h = PathSides(x1, x2, w);
     const Sides v = PathSides(y1, y2, w);
-    const pen::RoundStroke sides[4] = {
+    const geometry::RoundStroke sides[4] = {
         {h.low, v.low, h.high, v.low, w},
         {h.high, v.low, h.high, v.high, w},
         {h.low, v.high, h.high, v.high, w},
         {h.low, v.low, h.low, v.high, w},
     };
     const double r = 0.5 * w;
-    const bool fill = FillStyle == kFillStyleSolid;
+    const bool fill = brush.Style == kFillStyleSolid;
     const double left = std::min(x1, x2), right = std::max(x1, x2);
     const double top = std::min(y1, y2), bottom = std::max(y1, y2);
-    pen::ForEachPixelIn(*this, std::min(h.low, left) - r, std::min(v.low, top) - r,
-                        std::max(h.high, right) + r, std::max(v.high, bottom) + r,
-                        [&](int x, int y) {
-                            for (const pen::RoundStroke& s : sides) {
-                                if (s.Covers(x, y)) {
-                                    PlotPen(x, y, c);
-                                    return;
-                                }
-                            }
-                            if (fill && x >= left && x <= right && y >= top && y <= bottom)
-                                PlotPen(x, y, FillColor);
-                        });
+    geometry::ForEachPixelIn(*this, std::min(h.low, left) - r, std::min(v.low, top) - r,
+                             std::max(h.high, right) + r, std::max(v.high, bottom) + r,
+                             [&](int x, int y) {
+                                 for (const geometry::RoundStroke& s : sides) {
+                                     if (s.Covers(x, y)) {
+                                         PlotPen(x, y, c, pen);
+                                         return;
+                                     }
+                                 }
+                                 if (fill && x >= left && x <= right && y >= top && y <= bottom)
+                                     PlotPen(x, y, brush.Fill, pen);
+                             });
 }
 
-void Surface::FillBoxInterior(int x1, int y1, int x2, int y2) {
+void Surface::FillBoxInterior(int x1, int y1, int x2, int y2, const Pen& pen,
+                              const Brush& brush) {
     const long long left = std::min(x1, x2), right = std::max(x1, x2);
     const long long top = std::min(y1, y2), bottom = std::max(y1, y2);
     if (right - left < 2 || bottom - top < 2) return;  // the outline leaves no inside
     FillBox(static_cast<int>(left + 1), static_cast<int>(top + 1), static_cast<int>(right - 1),
-            static_cast<int>(bottom - 1), FillColor);
+            static_cast<int>(bottom - 1), brush.Fill, pen);
 }
 
 }  // namespace vexlo::surface

@@ -72,15 +72,8 @@ void MagnifyInto(const Surface& picIcon, const Surface& grid, Color gridColor, S
 
 namespace {
 
-// Runs draw with disp in invert mode and dotted style, then puts copy pen and solid back.
-template <typename F>
-void InvertDotted(Surface& disp, F draw) {
-    disp.DrawMode = surface::kDrawModeInvert;
-    disp.DrawStyle = surface::kDrawStyleDot;
-    draw();
-    disp.DrawMode = surface::kDrawModeCopyPen;
-    disp.DrawStyle = surface::kDrawStyleSolid;
-}
+// The color handed to the dotted inverting pen, which ignores it.
+constexpr Color kBandColor = 0x000000;
 
 }  // namespace
 
@@ -91,7 +84,7 @@ void DrawRegionOutline(Surface& disp, const DispRect& region, int sizeCode) {
     int y2 = region.Bottom;
     if (x2 == w) --x2;
     if (y2 == h) --y2;
-    InvertDotted(disp, [&] { disp.Box(region.Left, region.Top, x2, y2); });
+    disp.Box(region.Left, region.Top, x2, y2, kBandColor, surface::kDottedInvertPen);
     if (sizeCode == 1) {
         const int a = w / 2 + 1;
         const int b = h / 2 + 1;
@@ -103,11 +96,11 @@ void DrawRegionOutline(Surface& disp, const DispRect& region, int sizeCode) {
 }
 
 void DrawLineBand(Surface& disp, const DispRect& band) {
-    InvertDotted(disp, [&] { disp.Line(band.Left, band.Top, band.Right, band.Bottom); });
+    disp.Line(band.Left, band.Top, band.Right, band.Bottom, kBandColor, surface::kDottedInvertPen);
 }
 
 void DrawBoxBand(Surface& disp, const DispRect& band) {
-    InvertDotted(disp, [&] { disp.Box(band.Left, band.Top, band.Right, band.Bottom); });
+    disp.Box(band.Left, band.Top, band.Right, band.Bottom, kBandColor, surface::kDottedInvertPen);
 }
 
 std::string DispXYText(int c, int r) {

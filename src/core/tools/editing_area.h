@@ -18,7 +18,7 @@ inline constexpr Color kGridLight = 0x606060;
 inline constexpr Color kGridDark = 0x000000;
 inline constexpr Color kGridDotted = 0x800008;
 inline constexpr Color kGridNone = 0xC0C0C0;
-inline constexpr Color kGridForeColor = 0xE0E0E0;  // PicGrid's foreground color
+inline constexpr Color kGridForeColor = 0xE0E0E0;  // a 16x16 quarter's border with no grid
 
 // A rectangle of picDisp pixels, edges included.
 struct DispRect {

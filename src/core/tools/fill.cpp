@@ -15,9 +15,8 @@ Surface FloodedCopy(const Surface& picIcon, int c, int r, Color fillColor) {
     Surface picTemp(picIcon.Width(), picIcon.Height(), kWhite);
     surface::BitBlt(picTemp, 0, 0, picIcon.Width(), picIcon.Height(), picIcon, 0, 0,
                     surface::Rop::SrcCopy);
-    picTemp.FillStyle = surface::kFillStyleSolid;
-    picTemp.FillColor = fillColor;
-    surface::ExtFloodFill(picTemp, c, r, picTemp.GetPixel(c, r), surface::kFloodFillSurface);
+    surface::ExtFloodFill(picTemp, c, r, picTemp.GetPixel(c, r), surface::kFloodFillSurface,
+                          fillColor);
     return picTemp;
 }
 

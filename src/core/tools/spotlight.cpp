@@ -50,22 +50,17 @@ Channels ChannelsOf(Color c) {
 void DrawRings(Surface& target, const Surface& picIcon, const std::vector<Color>& ramp,
                bool arcs, double aspect) {
     surface::MakeSameSize(picIcon, target);
-    target.DrawMode = surface::kDrawModeCopyPen;
-    target.DrawStyle = surface::kDrawStyleSolid;
-    // Not filled: a filled disc would cover the smaller rings drawn before it.
-    target.FillStyle = surface::kFillStyleTransparent;
-    target.DrawWidth = 2;
+    // Not filled (the default brush): a filled disc would cover the smaller rings drawn before it.
+    const surface::Pen pen{.Width = 2};
     const double cx = picIcon.Width() / 2.0;
     const double cy = picIcon.Height() / 2.0;
     for (std::size_t i = 0; i < ramp.size(); ++i) {
-        target.FillColor = ramp[i];
         const double radius = static_cast<double>(i);
         if (arcs)
-            target.CircleArc(cx, cy, radius, ramp[i], 0, kArcEnd, aspect);
+            target.CircleArc(cx, cy, radius, ramp[i], 0, kArcEnd, aspect, pen);
         else
-            target.Circle(cx, cy, radius, ramp[i]);
+            target.Circle(cx, cy, radius, ramp[i], 1.0, pen);
     }
-    target.DrawWidth = 1;
 }
 
 }  // namespace

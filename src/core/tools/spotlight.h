@@ -44,10 +44,10 @@ std::vector<Color> DrawColoredRings(Surface& picTemp, const Surface& picIcon, in
 // way, or one dragged to the left or upwards, is 9 x 9 cells from the press cell. Every pixel of
 // the spot becomes painted (picMask 0x000000), transparent or not; parts past the icon's edge
 // are cut. picTemp and picImageTemp are the scratch Surfaces (back color 0xFFFFFF): they end up
-// cleared at picIcon's size, with DrawWidth 1. doEvents, if given, runs after every pixel.
+// cleared at picIcon's size. doEvents, if given, runs after every pixel.
 //
-// The caller does the rest of a shape plot's end around it (DrawWidth of the planes) and then
-// ComposeIcon, MagnifyIcon and TakeUndoSnapshot. picIcon must be the composition of the planes.
+// The caller then does ComposeIcon, MagnifyIcon and TakeUndoSnapshot. picIcon must be the
+// composition of the planes.
 bool PlotSpotlight(Surface& picImage, Surface& picMask, const Surface& picIcon, Surface& picTemp,
                    Surface& picImageTemp, DrawState& d, Color selected,
                    const std::function<void()>& doEvents = {});

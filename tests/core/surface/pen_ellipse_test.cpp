@@ -14,7 +14,7 @@ namespace vexlo::surface {
 namespace {
 
 using Pic = std::vector<std::string>;
-using Draw = std::function<void(Surface&)>;
+using Draw = std::function<void(Surface&, const Pen&, const Brush&)>;
 constexpr Color kWhite = 0xFFFFFF, kA = 0x0000AA;
 constexpr double kHalfPi = 1.5707963267948966;
 
@@ -40,26 +40,31 @@ Pic Rows(const std::string& spaced) {  // "ab cd" -> {"ab", "cd"}
 // Black pen and kA fill on white, at the given width and fill style.
 Pic Drawn(int w, int h, int width, int fillStyle, const Draw& draw) {
     Surface s(w, h, kWhite);
-    s.DrawWidth = width;
-    s.FillStyle = fillStyle;
-    s.FillColor = kA;
-    draw(s);
+    draw(s, Pen{.Width = width}, Brush{fillStyle, kA});
     return Render(s);
 }
 
 // The tools' oval: the ellipse that fills the box between two corners, from 32-bit reals.
 Draw Oval(int x1, int y1, int x2, int y2) {
-    return [=](Surface& s) {
+    return [=](Surface& s, const Pen& pen, const Brush& brush) {
         const float dx = static_cast<float>(std::abs(x1 - x2));
         const float dy = static_cast<float>(std::abs(y1 - y2));
-        s.Circle(x1 + (x2 - x1) / 2.0f, y1 + (y2 - y1) / 2.0f, std::max(dx, dy) / 2, 0, dy / dx);
+        s.Circle(x1 + (x2 - x1) / 2.0f, y1 + (y2 - y1) / 2.0f, std::max(dx, dy) / 2, 0, dy / dx,
+                 pen, brush);
     };
 }
 Draw LineOf(int x1, int y1, int x2, int y2) {
-    return [=](Surface& s) { s.Line(x1, y1, x2, y2, 0); };
+    return [=](Surface& s, const Pen& pen, const Brush&) { s.Line(x1, y1, x2, y2, 0, pen); };
+}
+Draw ArcOf(double cx, double cy, double radius, double start, double end, double aspect = 1.0) {
+    return [=](Surface& s, const Pen& pen, const Brush&) {
+        s.CircleArc(cx, cy, radius, 0, start, end, aspect, pen);
+    };
 }
 Draw BoxOf(int x1, int y1, int x2, int y2) {
-    return [=](Surface& s) { s.Box(x1, y1, x2, y2, 0); };
+    return [=](Surface& s, const Pen& pen, const Brush& brush) {
+        s.Box(x1, y1, x2, y2, 0, pen, brush);
+    };
 }
 
 TEST(PenShapes, Pictures) {
@@ -95,12 +100,16 @@ TEST(PenShapes, Pictures) {
         // Aspect 0: a horizontal line of the pen's width.
         {13, 3, 3, 0, Oval(1, 1, 11, 1), "############# ############# #############"},
         // Dots at width 1 run counterclockwise from angle 0.
-        {5, 5, 1, 1, [](Surface& s) { s.DrawStyle = kDrawStyleDot; s.Circle(2, 2, 2, 0); },
+        {5, 5, 1, 1,
+         [](Surface& s, Pen pen, const Brush& brush) {
+             pen.Style = kDrawStyleDot;
+             s.Circle(2, 2, 2, 0, 1.0, pen, brush);
+         },
          "...#. ....# #...# #.... .#..."},
         // Arcs run counterclockwise on the screen, without their end angle; wide ones end round.
-        {11, 6, 1, 0, [](Surface& s) { s.CircleArc(5, 5, 5, 0, 0, kHalfPi); },
+        {11, 6, 1, 0, ArcOf(5, 5, 5, 0, kHalfPi),
          "......##... ........#.. .........#. ..........# ..........# ..........#"},
-        {13, 8, 3, 0, [](Surface& s) { s.CircleArc(6, 6, 5, 0, 0, kHalfPi); },
+        {13, 8, 3, 0, ArcOf(6, 6, 5, 0, kHalfPi),
          ".....####.... .....######.. .....#######. ........####. .........#### "
          "..........### ..........### ..........###"},
     };
@@ -114,9 +123,9 @@ TEST(PenShapes, WideLinesIgnoreDirectionAndDots) {
         for (auto [x1, y1, x2, y2] : {std::array{1, 1, 7, 3}, {2, 6, 5, 0}, {0, 4, 7, 4}}) {
             const Pic want = Drawn(9, 8, width, 1, LineOf(x1, y1, x2, y2));
             EXPECT_EQ(Drawn(9, 8, width, 1, LineOf(x2, y2, x1, y1)), want);
-            const Draw dotted = [&](Surface& s) {
-                s.DrawStyle = kDrawStyleDot;
-                s.Line(x1, y1, x2, y2, 0);
+            const Draw dotted = [&](Surface& s, Pen pen, const Brush&) {
+                pen.Style = kDrawStyleDot;
+                s.Line(x1, y1, x2, y2, 0, pen);
             };
             EXPECT_EQ(Drawn(9, 8, width, 1, dotted), want);
         }
@@ -159,9 +168,10 @@ TEST(PenEllipse, ArcsZeroToSixAndSixToZeroMakeTheWholeOutline) {
         for (auto [w, h] : {std::pair{10, 10}, {9, 9}, {10, 5}, {4, 9}, {10, 0}}) {
             const Pic whole = Drawn(16, 16, width, 1, Oval(3, 3, 3 + w, 3 + h));
             const float dx = static_cast<float>(w), dy = static_cast<float>(h);
-            const Pic arcs = Drawn(16, 16, width, 0, [&](Surface& s) {  // arcs are never filled
-                s.CircleArc(3 + dx / 2, 3 + dy / 2, std::max(dx, dy) / 2, 0, 0, 6, dy / dx);
-                s.CircleArc(3 + dx / 2, 3 + dy / 2, std::max(dx, dy) / 2, 0, 6, 0, dy / dx);
+            // A solid brush in Drawn, but arcs take no brush: never filled.
+            const Pic arcs = Drawn(16, 16, width, 0, [&](Surface& s, const Pen& pen, const Brush&) {
+                s.CircleArc(3 + dx / 2, 3 + dy / 2, std::max(dx, dy) / 2, 0, 0, 6, dy / dx, pen);
+                s.CircleArc(3 + dx / 2, 3 + dy / 2, std::max(dx, dy) / 2, 0, 6, 0, dy / dx, pen);
             });
             EXPECT_EQ(arcs, whole) << "width " << width << " box " << w << "x" << h;
         }
@@ -173,60 +183,59 @@ TEST(PenEllipse, InvertModeTouchesEachPixelOnceSoTwiceRestores) {
     const std::vector<std::pair<int, Draw>> shapes = {
         {1, Oval(1, 2, 12, 9)}, {2, Oval(1, 1, 12, 12)}, {3, Oval(3, 2, 9, 12)},
         {1, Oval(1, 5, 12, 5)}, {2, Oval(1, 5, 12, 5)}, {5, Oval(2, 2, 11, 10)},
-        {2, [](Surface& s) { s.CircleArc(6.5, 6, 5.5, 0, 5, 1, 0.8); }}, {1, BoxOf(2, 3, 10, 9)},
+        {2, ArcOf(6.5, 6, 5.5, 5, 1, 0.8)}, {1, BoxOf(2, 3, 10, 9)},
         {3, BoxOf(2, 3, 10, 9)}, {4, BoxOf(1, 1, 12, 4)}, {3, LineOf(1, 12, 11, 2)},
     };
     for (int style : {kDrawStyleSolid, kDrawStyleDot})
         for (const auto& [width, draw] : shapes) {
-            const Draw styled = [&](Surface& s) {
-                s.FillColor = 0;
-                s.DrawStyle = style;
-                draw(s);
+            const Draw styled = [&](Surface& s, Pen pen, Brush brush) {
+                brush.Fill = 0;
+                pen.Style = style;
+                draw(s, pen, brush);
             };
             const Pic painted = Drawn(14, 14, width, 0, styled);
             Surface s(14, 14, kWhite);
-            s.DrawWidth = width;
-            s.FillStyle = 0;
-            s.DrawMode = kDrawModeInvert;
-            styled(s);
+            const Pen invert{.Width = width, .Mode = kDrawModeInvert};
+            const Brush solid{.Style = 0};
+            styled(s, invert, solid);
             EXPECT_EQ(Render(s), painted) << "width " << width << " style " << style;
-            styled(s);
+            styled(s, invert, solid);
             EXPECT_EQ(Render(s), Render(Surface(14, 14, kWhite)));
         }
 }
 
 TEST(PenShapes, ClippedLikeAWindowOfALargerSurface) {
-    using Moved = std::function<void(Surface&, int)>;  // the shape moved by (o, o)
+    using Moved = std::function<Draw(int)>;  // the shape moved by (o, o)
     const std::vector<std::pair<int, Moved>> shapes = {
-        {1, [](Surface& s, int o) { Oval(o - 4, o - 3, o + 5, o + 6)(s); }},
-        {2, [](Surface& s, int o) { Oval(o + 3, o - 5, o + 12, o + 4)(s); }},
-        {3, [](Surface& s, int o) { Oval(o - 2, o + 4, o + 9, o + 11)(s); }},
-        {4, [](Surface& s, int o) { Oval(o - 6, o - 6, o + 14, o + 14)(s); }},
-        {3, [](Surface& s, int o) { s.CircleArc(o, o + 7, 6, 0, 4, 2); }},
-        {3, [](Surface& s, int o) { LineOf(o - 3, o + 2, o + 11, o + 9)(s); }},
-        {2, [](Surface& s, int o) { BoxOf(o - 1, o - 1, o + 8, o + 8)(s); }},
-        {5, [](Surface& s, int o) { BoxOf(o + 6, o + 2, o + 12, o + 12)(s); }},
+        {1, [](int o) { return Oval(o - 4, o - 3, o + 5, o + 6); }},
+        {2, [](int o) { return Oval(o + 3, o - 5, o + 12, o + 4); }},
+        {3, [](int o) { return Oval(o - 2, o + 4, o + 9, o + 11); }},
+        {4, [](int o) { return Oval(o - 6, o - 6, o + 14, o + 14); }},
+        {3, [](int o) { return ArcOf(o, o + 7, 6, 4, 2); }},
+        {3, [](int o) { return LineOf(o - 3, o + 2, o + 11, o + 9); }},
+        {2, [](int o) { return BoxOf(o - 1, o - 1, o + 8, o + 8); }},
+        {5, [](int o) { return BoxOf(o + 6, o + 2, o + 12, o + 12); }},
     };
-    for (const auto& [width, draw] : shapes) {
-        Pic window = Drawn(28, 28, width, 0, [&](Surface& s) { draw(s, 10); });
+    for (const auto& [width, moved] : shapes) {
+        Pic window = Drawn(28, 28, width, 0, moved(10));
         window = Pic(window.begin() + 10, window.begin() + 18);
         for (std::string& row : window) row = row.substr(10, 8);
-        const Pic small = Drawn(8, 8, width, 0, [&](Surface& s) { draw(s, 0); });
+        const Pic small = Drawn(8, 8, width, 0, moved(0));
         EXPECT_EQ(small, window) << "width " << width;
     }
 }
 
 TEST(PenShapes, FarOffCoordinatesAreSafe) {
     Surface s(6, 6, kWhite);
-    s.DrawWidth = 3;
-    s.FillStyle = 0;
-    s.FillColor = kA;
-    s.Line(-2000000000, 3, 2000000000, 2, 0);
-    s.Circle(3, 3, 1e300, 0, 1e-300);
-    s.Circle(1e18, -1e18, 5, 0);
-    s.CircleArc(3, 3, 1e9, 0, 1, 2, 1);
-    s.Circle(3, 3, NAN, 0);
-    s.Box(-2147483647, -2147483647, 2147483647, 2147483647, 0);  // all inside, the pen far off
+    const Pen pen{.Width = 3};
+    const Brush brush = SolidBrush(kA);
+    s.Line(-2000000000, 3, 2000000000, 2, 0, pen);
+    s.Circle(3, 3, 1e300, 0, 1e-300, pen, brush);
+    s.Circle(1e18, -1e18, 5, 0, 1.0, pen, brush);
+    s.CircleArc(3, 3, 1e9, 0, 1, 2, 1, pen);
+    s.Circle(3, 3, NAN, 0, 1.0, pen, brush);
+    // All inside, the pen far off.
+    s.Box(-2147483647, -2147483647, 2147483647, 2147483647, 0, pen, brush);
     EXPECT_EQ(Render(s), Pic(6, "aaaaaa"));
 }
 

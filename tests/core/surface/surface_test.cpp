@@ -53,8 +53,7 @@ TEST(SurfaceDraw, LineLeavesOutItsEndPointAndRoundsTiesTowardsTheStart) {
     }
     Surface dots(9, 1, kWhite);
     dots.Fill(kA);
-    dots.DrawStyle = kDrawStyleDot;
-    dots.Line(0, 0, 8, 0, 0);
+    dots.Line(0, 0, 8, 0, 0, Pen{.Style = kDrawStyleDot});
     EXPECT_EQ(Render(dots), Pic{"###aaa##a"});  // gaps untouched
 }
 
@@ -70,21 +69,19 @@ TEST(SurfaceDraw, BoxTouchesEachOutlinePixelOnce) {
     };
     for (const Shape& c : cases) {
         Surface s(5, 4, kWhite);
-        s.DrawMode = kDrawModeInvert;
-        s.Box(c.x1, c.y1, c.x2, c.y2, kA);
+        const Pen invert{.Mode = kDrawModeInvert};
+        s.Box(c.x1, c.y1, c.x2, c.y2, kA, invert);
         EXPECT_EQ(Render(s), c.want) << c.x1 << "," << c.y1 << " " << c.x2 << "," << c.y2;
-        s.Box(c.x1, c.y1, c.x2, c.y2);
+        s.Box(c.x1, c.y1, c.x2, c.y2, 0, invert);
         EXPECT_EQ(Render(s), Render(Surface(5, 4, kWhite)));
     }
 }
 
 TEST(SurfaceDraw, DottedBoxPatternRunsOnAroundTheCorners) {
     Surface s(5, 5, kWhite);
-    s.DrawStyle = kDrawStyleDot;
-    s.DrawMode = kDrawModeInvert;
-    s.Box(0, 0, 4, 4, kA);
+    s.Box(0, 0, 4, 4, kA, kDottedInvertPen);
     EXPECT_EQ(Render(s), (Pic{"###..", ".....", "#...#", "#...#", "#...#"}));
-    s.Box(0, 0, 4, 4, kA);
+    s.Box(0, 0, 4, 4, kA, kDottedInvertPen);
     EXPECT_EQ(Render(s), Render(Surface(5, 5, kWhite)));
 }
 
@@ -177,7 +174,7 @@ TEST(SurfaceBlit, BitBltOntoItselfReadsBeforeWriting) {
     EXPECT_EQ(Render(s), (Pic{"a...", ".b..", "..c.", "...c"}));
 }
 
-TEST(SurfaceBlit, BlacknessWithoutASourceIgnoresThePen) {
+TEST(SurfaceBlit, BlacknessWithoutASourceClips) {
     struct Case { int dx, dy, w, h; Pic want; };
     const std::vector<Case> cases = {
         {1, 0, 2, 2, {"b##b", "b##b", "bbbb"}}, {-1, 2, 9, 9, {"bbbb", "bbbb", "####"}},
@@ -186,7 +183,6 @@ TEST(SurfaceBlit, BlacknessWithoutASourceIgnoresThePen) {
     };
     for (const Case& c : cases) {
         Surface s(4, 3, kB);
-        s.DrawMode = kDrawModeInvert;  // pen state, not for BitBlt
         EXPECT_TRUE(BitBlt(s, c.dx, c.dy, c.w, c.h, Rop::Blackness));
         EXPECT_EQ(Render(s), c.want) << c.dx << "," << c.dy << " " << c.w << "x" << c.h;
     }

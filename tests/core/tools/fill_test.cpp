@@ -143,15 +143,14 @@ std::size_t CountOf(const Surface& s, Color c) {
 
 TEST(Flood, FillsAWhole48x48AreaAndRefusesAnyOtherStart) {
     Surface s(48, 48, kWhite);
-    s.FillColor = kWhite;  // the area's own color: it ends, and nothing changes
-    EXPECT_TRUE(ExtFloodFill(s, 0, 0, kWhite, kFloodFillSurface));
-    s.FillColor = kRed;
-    EXPECT_FALSE(ExtFloodFill(s, 1, 1, kBlue, kFloodFillSurface));
-    EXPECT_FALSE(ExtFloodFill(s, 48, 0, kWhite, kFloodFillSurface));
-    EXPECT_FALSE(ExtFloodFill(s, 0, -1, kWhite, kFloodFillSurface));
+    // The area's own color: it ends, and nothing changes.
+    EXPECT_TRUE(ExtFloodFill(s, 0, 0, kWhite, kFloodFillSurface, kWhite));
+    EXPECT_FALSE(ExtFloodFill(s, 1, 1, kBlue, kFloodFillSurface, kRed));
+    EXPECT_FALSE(ExtFloodFill(s, 48, 0, kWhite, kFloodFillSurface, kRed));
+    EXPECT_FALSE(ExtFloodFill(s, 0, -1, kWhite, kFloodFillSurface, kRed));
     EXPECT_TRUE(surface::FloodFillArea(s, 1, 1, kBlue, kFloodFillSurface).empty());
     EXPECT_EQ(CountOf(s, kWhite), 48u * 48u);
-    EXPECT_TRUE(ExtFloodFill(s, 47, 47, kWhite, kFloodFillSurface));
+    EXPECT_TRUE(ExtFloodFill(s, 47, 47, kWhite, kFloodFillSurface, kRed));
     EXPECT_EQ(CountOf(s, kRed), 48u * 48u);
 }
 
@@ -161,8 +160,7 @@ TEST(Flood, IsFourConnected) {
     for (int y = 0; y < 6; ++y)
         for (int x = 0; x < 6; ++x)
             if ((x + y) % 2 != 0) s.SetPixelV(x, y, kBlack);
-    s.FillColor = kRed;
-    EXPECT_TRUE(ExtFloodFill(s, 2, 2, kWhite, kFloodFillSurface));
+    EXPECT_TRUE(ExtFloodFill(s, 2, 2, kWhite, kFloodFillSurface, kRed));
     EXPECT_EQ(CountOf(s, kRed), 1u);
     EXPECT_EQ(s.GetPixel(2, 2), kRed);
 }
@@ -197,8 +195,7 @@ TEST(Flood, FollowsASpiralMazeToItsEnd) {
     std::vector<std::pair<int, int>> path;
     Surface maze = SpiralMaze(path);
     ASSERT_GT(path.size(), 1000u);
-    maze.FillColor = kRed;
-    EXPECT_TRUE(ExtFloodFill(maze, 0, 0, kWhite, kFloodFillSurface));
+    EXPECT_TRUE(ExtFloodFill(maze, 0, 0, kWhite, kFloodFillSurface, kRed));
     EXPECT_EQ(CountOf(maze, kRed), path.size());
     EXPECT_EQ(maze.GetPixel(path.back().first, path.back().second), kRed);
 
@@ -221,12 +218,11 @@ TEST(Flood, BorderModeFillsUpToTheBorderColor) {
     Surface s(6, 6, kWhite);
     s.Box(1, 1, 4, 4, kBlue);
     s.SetPixelV(2, 2, kYellow);
-    s.FillColor = kRed;
-    EXPECT_TRUE(ExtFloodFill(s, 3, 3, kBlue, kFloodFillBorder));
+    EXPECT_TRUE(ExtFloodFill(s, 3, 3, kBlue, kFloodFillBorder, kRed));
     EXPECT_EQ(CountOf(s, kRed), 4u);
     EXPECT_EQ(CountOf(s, kBlue), 12u);
     EXPECT_EQ(CountOf(s, kWhite), 20u);
-    EXPECT_FALSE(ExtFloodFill(s, 1, 1, kBlue, kFloodFillBorder));
+    EXPECT_FALSE(ExtFloodFill(s, 1, 1, kBlue, kFloodFillBorder, kRed));
 }
 
 }  // namespace

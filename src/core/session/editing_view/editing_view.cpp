@@ -6,9 +6,7 @@ namespace vexlo::session {
 
 EditingView::EditingView()
     : m_disp(tools::kDispSide, tools::kDispSide, icon::kTransparentGray),
-      m_grid(tools::kDispSide, tools::kDispSide, icon::kWindowColor) {
-    m_grid.ForeColor = tools::kGridForeColor;
-}
+      m_grid(tools::kDispSide, tools::kDispSide, icon::kWindowColor) {}
 
 void EditingView::Magnify(const Surface& composed, int sizeCode) {
     tools::MagnifyInto(composed, m_grid, m_gridColor, m_disp);
