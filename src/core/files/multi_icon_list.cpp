@@ -109,16 +109,16 @@ bool WriteSingleIcon(const IconSet& set, int index, const std::string& path) {
 
 SetResult RemoveListedImage(const std::string& path, IconSet& set, int index) {
     if (set.Count() == 1) return {false, kLastIconStays};
-    SetResult result = set.Count() < 1 ? SetResult{false, kFailedToUpdate} : RemoveIconFromFile(path, index);
+    const bool removed = RemoveImageFromSet(set, index) && WriteIconSet(path, set);
     set.Clear();
-    return result;
+    if (!removed) return {false, kFailedToUpdate};
+    return {true, {}};
 }
 
-int SelectionAfterRemoval(int removedPosition, int lineCount) {
+int SelectionAfterRemoval(int removedIndex, int lineCount) {
     if (lineCount < 1) return -1;
     if (lineCount == 1) return 0;
-    if (removedPosition < 0) return 0;
-    return removedPosition < lineCount ? removedPosition : lineCount - 1;
+    return lineCount > removedIndex ? removedIndex : removedIndex - 1;
 }
 
 // ---- Preview ---------------------------------------------------------------------------

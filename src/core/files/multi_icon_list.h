@@ -1,8 +1,9 @@
 #pragma once
-// The multi-icon dialog without its window: which images of an icon set it lists and with
-// what lines, the table from list positions to image indexes, the answer it leaves in
-// MultiIconChoice, the names of split and single saves, the single-icon file, removal, the
-// preview's composition, and every message of the dialog that icon_set.h doesn't hold.
+// The pieces of the multi-icon dialog that its model (multi_icon_manager.h) is built from:
+// which images of an icon set it lists and with what lines, the table from list positions to
+// image indexes, the answer it leaves in MultiIconChoice, the names of split and single saves,
+// the single-icon file, removal, the preview's composition, and every message of the dialog
+// that icon_set.h doesn't hold.
 //
 // The list's lines are IconListLine (icon_set.h): "Ref ", index + 1, two blanks, tab,
 // wBitCount, " BPP", tab, the color count and "-Color" or "True-Color", tab, two blanks,
@@ -82,15 +83,19 @@ bool WriteSingleIcon(const IconSet& set, int index, const std::string& path);
 
 // ---- Removal ---------------------------------------------------------------------------
 
-// Removes image index from the file at path through RemoveIconFromFile (every later image
-// moves back by the removed length plus 16, every earlier one by 16) and empties the set,
-// whatever the outcome: the dialog reads the file afresh after a removal. Refuses the set's
-// last image (kLastIconStays) without writing; a failed write answers kFailedToUpdate.
+// Removes image index from the set held in memory and writes the set to path (every later
+// image moves back by the removed length plus 16, every earlier one by 16); the file on disk
+// is not read again first. The set is emptied whatever the outcome: the dialog reads the file
+// afresh after a removal. Refuses the set's last image (kLastIconStays) without writing or
+// emptying; an empty set, an index outside it or a failed write answer kFailedToUpdate, and a
+// failed write leaves the file as it was.
 SetResult RemoveListedImage(const std::string& path, IconSet& set, int index);
 
-// The position selected after the line at removedPosition went, in a list now of lineCount
-// lines: the same position, or the one above when the last line went; -1 for an empty list.
-int SelectionAfterRemoval(int removedPosition, int lineCount);
+// The position selected after image removedIndex went, in a list now of lineCount lines: the
+// only line; position removedIndex if the list has more lines than that, else the position
+// above it; -1 for an empty list. It goes by the image's index, not by the position its line
+// had, so it can answer a position past the last line when unlisted images came before.
+int SelectionAfterRemoval(int removedIndex, int lineCount);
 
 // ---- Preview ---------------------------------------------------------------------------
 
@@ -109,5 +114,10 @@ inline constexpr const char* kNotTrueColorDepth = "Selected item is of True Colo
 inline constexpr const char* kNotLowDepth = "Selected item is below 8 BPP, but not 1, 4";
 inline constexpr const char* kSingleIconFilter = "Icon files (*.ico)|*.ico|";
 inline constexpr const char* kSingleIconExt = "ico";
+
+// The list's two tab stops, in dialog units (a quarter of the font's average character
+// width): after the reference, after the bits. A tab past them goes to the next multiple of
+// eight average character widths.
+inline constexpr int kListTabStops[2] = {30, 60};
 
 }  // namespace vexlo::files

@@ -1,25 +1,16 @@
-// frmVexloMultiIcon: construction and layout of both faces, first activation, the list and
-// the preview. The buttons' handlers are in frm_vexlo_multi_icon_actions.cpp.
+// frmVexloMultiIcon: construction and layout of both faces. Forwarding to the model and the
+// redraw from it are in frm_vexlo_multi_icon_actions.cpp.
 #include "gui/files/frm_vexlo_multi_icon.h"
 
-#include <QApplication>
-#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
-#include <QShowEvent>
-#include <QStyledItemDelegate>
-#include <QTextOption>
-#include <QTimer>
 
-#include "core/files/ico_read.h"
-#include "core/host/host.h"
-#include "gui/platform/message_box.h"
+#include "gui/files/icon_list_box.h"
 #include "gui/platform/surface_view.h"
-#include "gui/utilities/cls_vexlo_dialog.h"
+#include "gui/platform/system_info.h"
 
 namespace vexlo::gui {
 
@@ -37,51 +28,6 @@ constexpr int kButtonStep = 30;
 constexpr int kFrameSide = 72;                          // lblIconInFile, holds a 48x48 image
 constexpr int kEditHeight = 312;
 constexpr int kAddHeight = 420;
-
-// The list's tab stops in dialog units, as LB_SETTABSTOPS takes them (a dialog unit is a
-// quarter of the font's average character width). Beyond the two given stops, the lines'
-// third tab goes to a stop far enough for "True-Color" and "256-Color" to line up the sizes.
-constexpr int kTabStopUnits[] = {30, 60, 110};
-
-// Draws a line of the list with its tabs expanded to the list's tab stops.
-class TabbedLineDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override {
-        QStyleOptionViewItem opt = option;
-        initStyleOption(&opt, index);
-        const QString text = opt.text;
-        opt.text.clear();
-        const QWidget* widget = opt.widget;
-        QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
-        style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
-
-        const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt, widget);
-        const QPalette::ColorGroup group = !(opt.state & QStyle::State_Enabled) ? QPalette::Disabled
-                                           : (opt.state & QStyle::State_Active) ? QPalette::Active
-                                                                                : QPalette::Inactive;
-        const QPalette::ColorRole role =
-            (opt.state & QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
-        QTextOption textOption(Qt::AlignLeft | Qt::AlignVCenter);
-        textOption.setWrapMode(QTextOption::NoWrap);
-        textOption.setTabArray(TabStops(opt.fontMetrics));
-        painter->save();
-        painter->setFont(opt.font);
-        painter->setPen(opt.palette.color(group, role));
-        painter->drawText(QRectF(textRect), text, textOption);
-        painter->restore();
-    }
-
-    static QList<qreal> TabStops(const QFontMetrics& metrics) {
-        const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-        const qreal baseUnit = metrics.horizontalAdvance(letters) / 52.0;
-        QList<qreal> stops;
-        for (int units : kTabStopUnits) stops << units * baseUnit / 4.0;
-        return stops;
-    }
-};
 
 QPushButton* MakeButton(const char* caption, const char* tip, QWidget* parent) {
     auto* button = new QPushButton(QString::fromLatin1(caption), parent);
@@ -127,35 +73,22 @@ QLabel* MakePictureFrame(QWidget* parent) {
     return frame;
 }
 
-// Gives view the size of its Surface and centres it on frame.
-void CentreOn(SurfaceView* view, const QLabel* frame) {
-    const QSize size = view->sizeHint();
-    const QRect area = frame->geometry();
-    view->setGeometry(area.x() + (area.width() - size.width()) / 2,
-                      area.y() + (area.height() - size.height()) / 2, size.width(), size.height());
-    view->raise();
-    view->update();
-}
-
 }  // namespace
 
-frmVexloMultiIcon::Hourglass::Hourglass() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }
-frmVexloMultiIcon::Hourglass::~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-
-frmVexloMultiIcon::frmVexloMultiIcon(const std::string& fileSpec, int addMode, QWidget* parent)
-    : QDialog(parent), m_fileSpec(fileSpec), m_addFace(Face(addMode)) {
-    m_incomingAlpha.SetSingle();
-    for (surface::Surface& s : m_iconInFile) s.SetBackColor(files::kPreviewBack);
-    m_currIcon.SetBackColor(files::kPreviewBack);
+frmVexloMultiIcon::frmVexloMultiIcon(host::Host& host, const std::string& fileSpec, int addMode, QWidget* parent)
+    : QDialog(parent), m_model(host, fileSpec, addMode, platform::ProgramDirectory()) {
     BuildEditFace();
     BuildAddFace();
 
     // The face of the mode, its caption and its size.
-    setWindowTitle(QString::fromLatin1(m_addFace == 1 ? files::kAddFaceCaption : files::kEditFaceCaption));
-    picContainer[static_cast<std::size_t>(m_addFace)]->show();
-    picContainer[static_cast<std::size_t>(1 - m_addFace)]->hide();
-    setFixedSize(picContainer[static_cast<std::size_t>(m_addFace)]->size());
+    const auto face = static_cast<std::size_t>(m_model.AddFace());
+    setWindowTitle(QString::fromLatin1(m_model.Caption()));
+    picContainer[face]->show();
+    picContainer[1 - face]->hide();
+    setFixedSize(picContainer[face]->size());
     CentreOnScreen();
+    // Split Save walks the list inside one step: the window follows it as it goes.
+    m_model.SetChangedHandler([this] { Redraw(); });
 }
 
 frmVexloMultiIcon::~frmVexloMultiIcon() = default;
@@ -163,25 +96,25 @@ frmVexloMultiIcon::~frmVexloMultiIcon() = default;
 void frmVexloMultiIcon::BuildCommonControls(int k) {
     const auto i = static_cast<std::size_t>(k);
     QWidget* face = picContainer[i];
-    lisIcons[i] = new QListWidget(face);
+    lisIcons[i] = new IconListBox(face);
     QFont listFont = lisIcons[i]->font();
     listFont.setFamily(QStringLiteral("Tahoma"));
     lisIcons[i]->setFont(listFont);
-    lisIcons[i]->setItemDelegate(new TabbedLineDelegate(lisIcons[i]));
-    lisIcons[i]->setSelectionMode(QAbstractItemView::SingleSelection);
     lblIconInFile[i] = MakePictureFrame(face);
-    picIconInFile[i] = new SurfaceView(&m_iconInFile[i], face);
+    picIconInFile[i] = new SurfaceView(&m_model.IconInFile(k), face);
     picIconInFile[i]->SetCentred(true);
     cmdRemove[i] = MakeButton("Remove", "Remove highlighted icon", face);
     cmdSplitSave[i] = MakeButton("Split Save", "Split save all to single-icon files", face);
     cmdSaveSingle[i] = MakeButton("Save Single", "Save selected to a single-icon file", face);
     cmdClose[i] = MakeButton("Close", nullptr, face);
 
-    connect(lisIcons[i], &QListWidget::currentRowChanged, this, [this, k] { Preview(k); });
-    connect(cmdRemove[i], &QPushButton::clicked, this, [this] { ClickRemove(); });
-    connect(cmdSplitSave[i], &QPushButton::clicked, this, [this] { ClickSplitSave(); });
-    connect(cmdSaveSingle[i], &QPushButton::clicked, this, [this] { ClickSaveSingle(); });
-    connect(cmdClose[i], &QPushButton::clicked, this, [this] { ClickClose(); });
+    // Only the face of the mode is shown, so only its controls are ever used.
+    connect(lisIcons[i], &IconListBox::Click, this,
+            [this, i] { Forward([row = lisIcons[i]->SelectedRow()](auto& m) { m.Highlight(row); }); });
+    connect(cmdRemove[i], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.Remove(); }); });
+    connect(cmdSplitSave[i], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.SplitSave(); }); });
+    connect(cmdSaveSingle[i], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.SaveSingle(); }); });
+    connect(cmdClose[i], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.Close(); }); });
 }
 
 void frmVexloMultiIcon::BuildEditFace() {
@@ -204,7 +137,7 @@ void frmVexloMultiIcon::BuildEditFace() {
         y += kButtonStep;
     }
     cmdClose[0]->setGeometry(kColumnX, kEditHeight - kMargin - kButtonHeight, kColumnWidth, kButtonHeight);
-    connect(cmdEdit, &QPushButton::clicked, this, [this] { ClickEdit(); });
+    connect(cmdEdit, &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.Edit(); }); });
 }
 
 void frmVexloMultiIcon::BuildAddFace() {
@@ -214,7 +147,7 @@ void frmVexloMultiIcon::BuildAddFace() {
     lblCurrIcon[0]->setGeometry(kMargin, kMargin, 120, 20);
     lblCurrIconBase = MakePictureFrame(face);
     lblCurrIconBase->setGeometry(kMargin, 32, kFrameSide, kFrameSide);
-    PicCurrIcon = new SurfaceView(&m_currIcon, face);
+    PicCurrIcon = new SurfaceView(&m_model.CurrIcon(), face);
     PicCurrIcon->SetCentred(true);
     lblCurrIcon[1] = MakeLabel("Size and color depth", face);
     lblCurrIcon[1]->setGeometry(kMargin + kFrameSide + 12, 32 + (kFrameSide - 20) / 2,
@@ -245,8 +178,8 @@ void frmVexloMultiIcon::BuildAddFace() {
     cmdSaveAdd[1]->setGeometry(kMargin + kListWidth - saveWidth, bottomRow, saveWidth, kButtonHeight);
     cmdSaveAdd[0]->setGeometry(kMargin + kListWidth - 2 * saveWidth - 8, bottomRow, saveWidth, kButtonHeight);
     cmdClose[1]->setGeometry(kColumnX, bottomRow, kColumnWidth, kButtonHeight);
-    connect(cmdSaveAdd[0], &QPushButton::clicked, this, [this] { ClickSaveAdd(0); });
-    connect(cmdSaveAdd[1], &QPushButton::clicked, this, [this] { ClickSaveAdd(1); });
+    connect(cmdSaveAdd[0], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.SaveAdd(0); }); });
+    connect(cmdSaveAdd[1], &QPushButton::clicked, this, [this] { Forward([](auto& m) { m.SaveAdd(1); }); });
 }
 
 void frmVexloMultiIcon::CentreOnScreen() {
@@ -254,133 +187,6 @@ void frmVexloMultiIcon::CentreOnScreen() {
     if (screen == nullptr) return;
     const QRect area = screen->availableGeometry();
     move(area.center() - QPoint(width() / 2, height() / 2));
-}
-
-void frmVexloMultiIcon::SetIconToAdd(const surface::Surface& icon) {
-    m_currIcon = icon;
-    CentreOn(PicCurrIcon, lblCurrIconBase);
-}
-
-void frmVexloMultiIcon::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (m_firstActivation) Activate();
-}
-
-void frmVexloMultiIcon::done(int result) {
-    m_set.Clear();
-    QDialog::done(result);
-}
-
-bool frmVexloMultiIcon::Activate() {
-    if (!m_firstActivation) return true;
-    CentreOn(PicCurrIcon, lblCurrIconBase);
-    m_choice.clear();
-    m_incomingAlpha.SetSingle();
-    const int k = m_addFace;
-    m_iconInFile[static_cast<std::size_t>(k)].Clear();
-
-    m_listGuard = true;
-    if (!ReadListedFile()) {
-        m_listGuard = false;
-        m_firstActivation = false;
-        // A dialog being shown closes once its event loop runs: closing it within show()
-        // would leave exec() waiting on a hidden dialog.
-        if (isVisible()) QTimer::singleShot(0, this, [this] { reject(); });
-        else reject();
-        return false;
-    }
-    FillIconList();
-    m_listGuard = false;
-
-    if (SelectedItem(k) != nullptr) {
-        Preview(k);
-        if (k == 1) cmdSaveAdd[0]->setFocus();
-    }
-    m_firstActivation = false;
-    return true;
-}
-
-bool frmVexloMultiIcon::ReadListedFile() {
-    return files::ReadIconSet(m_fileSpec, m_set) > 0;
-}
-
-void frmVexloMultiIcon::FillIconList() {
-    if (m_set.Count() < 1) return;
-    const int k = m_addFace;
-    const auto i = static_cast<std::size_t>(k);
-    QListWidget* list = lisIcons[i];
-    list->clear();
-    m_list = files::BuildMultiIconList(m_set);
-    for (const files::MultiIconListItem& item : m_list.Items) list->addItem(QString::fromStdString(item.Line));
-
-    if (m_list.Empty()) {
-        if (k == 1) {
-            cmdSaveAdd[0]->setEnabled(false);
-            cmdSaveAdd[1]->setEnabled(false);
-        } else {
-            cmdEdit->setEnabled(false);
-        }
-        cmdRemove[i]->setEnabled(false);
-        cmdSplitSave[i]->setEnabled(false);
-        cmdSaveSingle[i]->setEnabled(false);
-        return;
-    }
-    if (k == 1) {
-        list->setCurrentRow(0);
-        cmdSaveAdd[0]->setEnabled(true);
-        cmdSaveAdd[1]->setEnabled(true);
-    } else {
-        list->setCurrentRow(m_list.Pick);
-        cmdEdit->setEnabled(true);
-    }
-    const bool several = m_set.Count() >= 2;
-    cmdRemove[i]->setEnabled(several);
-    cmdSplitSave[i]->setEnabled(several);
-    cmdSaveSingle[i]->setEnabled(several);
-}
-
-const files::MultiIconListItem* frmVexloMultiIcon::SelectedItem(int k) const {
-    if (Face(k) != m_addFace) return nullptr;
-    const QListWidget* list = lisIcons[static_cast<std::size_t>(m_addFace)];
-    const QListWidgetItem* current = list->currentItem();
-    if (current == nullptr || !current->isSelected()) return nullptr;
-    return m_list.At(list->currentRow());
-}
-
-void frmVexloMultiIcon::SelectQuietly(int k, int position) {
-    const bool guard = m_listGuard;
-    m_listGuard = true;
-    lisIcons[static_cast<std::size_t>(Face(k))]->setCurrentRow(position);
-    m_listGuard = guard;
-}
-
-void frmVexloMultiIcon::Highlight(int position) {
-    SelectQuietly(m_addFace, position);
-    Preview(m_addFace);
-}
-
-void frmVexloMultiIcon::Preview(int k) {
-    if (m_listGuard) return;
-    const files::MultiIconListItem* item = SelectedItem(k);
-    if (item == nullptr) return;
-    bool read = false;
-    {
-        const Hourglass wait;
-        read = files::ReadIconFileToImage(m_fileSpec, item->Index, m_picImageX, m_picMaskX, m_incomingAlpha);
-    }
-    if (!read) {
-        platform::ShowMessageBox(files::UnableToGetMessage(item->Index + 1), host::MsgButtons::Ok,
-                                 host::MsgIcon::None, host::kTitle);
-        return;
-    }
-    const auto i = static_cast<std::size_t>(Face(k));
-    files::ComposePreview(m_picImageX, m_picMaskX, m_iconInFile[i]);
-    CentreOn(picIconInFile[i], lblIconInFile[i]);
-}
-
-clsVexloDialog& frmVexloMultiIcon::Dialog() {
-    if (!m_dialog) m_dialog = std::make_unique<clsVexloDialog>(this);
-    return *m_dialog;
 }
 
 }  // namespace vexlo::gui

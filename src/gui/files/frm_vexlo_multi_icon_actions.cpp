@@ -1,191 +1,117 @@
-// frmVexloMultiIcon: the buttons (Edit, Remove, Split Save, Save Single, Save, Save As,
-// Close), the folder question, and the entry point that shows the dialog.
-#include <QCoreApplication>
+// frmVexloMultiIcon: the entry point that shows the dialog, the forwarding of each event to
+// the model, and the redraw of the controls from the model's state.
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
+#include <QShowEvent>
+#include <QTimer>
 
-#include "core/files/ico_read.h"
-#include "core/host/host.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
-#include "gui/platform/message_box.h"
-#include "gui/utilities/cls_vexlo_dialog.h"
-#include "gui/utilities/frm_dir_dialog.h"
+#include "gui/files/icon_list_box.h"
+#include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
 
 namespace {
 
-using host::MsgAnswer;
-using host::MsgButtons;
-using host::MsgIcon;
-
-void Tell(const std::string& text) {
-    platform::ShowMessageBox(text, MsgButtons::Ok, MsgIcon::None, host::kTitle);
-}
-
-bool Confirm(const std::string& question) {
-    return platform::ShowMessageBox(question, MsgButtons::YesNo, MsgIcon::Question, host::kTitle) ==
-           MsgAnswer::Yes;
+// Gives view the size of its Surface and centres it on frame.
+void CentreOn(SurfaceView* view, const QLabel* frame) {
+    const QSize size = view->sizeHint();
+    const QRect area = frame->geometry();
+    view->setGeometry(area.x() + (area.width() - size.width()) / 2,
+                      area.y() + (area.height() - size.height()) / 2, size.width(), size.height());
+    view->raise();
+    view->update();
 }
 
 }  // namespace
 
-MultiIconResult frmVexloMultiIcon::Run(QWidget* parent, const std::string& fileSpec, int addMode,
-                                       const surface::Surface* iconToAdd,
-                                       const std::string& addDescription) {
-    frmVexloMultiIcon dlg(fileSpec, addMode, parent);
+host::MultiIconAnswer frmVexloMultiIcon::Run(host::Host& host, QWidget* parent, const std::string& fileSpec,
+                                             int addMode, const surface::Surface* iconToAdd,
+                                             const std::string& addDescription) {
+    frmVexloMultiIcon dlg(host, fileSpec, addMode, parent);
     const QString path = QString::fromStdString(fileSpec);
-    if (dlg.AddFace() == 1) {
+    if (dlg.Model().AddFace() == 1) {
         dlg.lblExistingFile[1]->setText(path);
-        dlg.lblCurrIcon[1]->setText(QString::fromStdString(addDescription));
-        if (iconToAdd != nullptr) dlg.SetIconToAdd(*iconToAdd);
+        dlg.SetIconToAdd(iconToAdd != nullptr ? *iconToAdd : surface::Surface(), addDescription);
     } else {
         dlg.lblFileToEdit[0]->setText(path);
     }
-    if (!dlg.Activate()) return {};
-    dlg.exec();
-    return dlg.Result();
+    if (dlg.Activate()) dlg.exec();
+    return dlg.Model().Answer();
 }
 
-MultiIconResult frmVexloMultiIcon::Result() const {
-    MultiIconResult result;
-    result.Choice = m_choice;
-    if (m_addFace == 0 && !m_choice.empty()) {
-        result.Image = m_picImageX;
-        result.Mask = m_picMaskX;
-        result.Alpha = m_incomingAlpha;
-    }
-    return result;
+void frmVexloMultiIcon::SetIconToAdd(const surface::Surface& icon, const std::string& description) {
+    m_model.SetIconToAdd(icon, description);
+    lblCurrIcon[1]->setText(QString::fromStdString(description));
+    CentreOn(PicCurrIcon, lblCurrIconBase);
 }
 
-void frmVexloMultiIcon::ClickEdit() {
-    if (m_listGuard || m_addFace != 0) return;
-    const files::MultiIconListItem* selected = SelectedItem(0);
-    if (selected == nullptr) return;
-    const files::MultiIconListItem item = *selected;
-    if (const std::string refusal = files::EditRefusal(item.Bits); !refusal.empty()) {
-        Tell(refusal);
-        return;
-    }
-    // The image is read afresh, so the planes handed over are those of the chosen image even
-    // if its preview failed or the file changed since; its alpha values, if any, come along.
-    alpha::AlphaArray incomingAlpha;
-    incomingAlpha.SetSingle();
-    bool read = false;
-    {
-        const Hourglass wait;
-        read = files::ReadIconFileToImage(m_fileSpec, item.Index, m_picImageX, m_picMaskX, incomingAlpha);
-    }
+bool frmVexloMultiIcon::Activate() {
+    if (!m_model.FirstActivation()) return !m_model.Closed();
+    const bool read = m_model.Activate();
+    Redraw();
     if (!read) {
-        Tell(files::UnableToGetMessage(item.Index + 1));
-        return;
+        // A dialog being shown closes once its event loop runs: closing it within show()
+        // would leave exec() waiting on a hidden dialog.
+        if (isVisible())
+            QTimer::singleShot(0, this, [this] { reject(); });
+        else
+            reject();
     }
-    m_incomingAlpha = std::move(incomingAlpha);
-    m_choice = files::EditChoiceText(item);
-    accept();
+    return read;
 }
 
-void frmVexloMultiIcon::ClickRemove() {
-    const int k = m_addFace;
-    QListWidget* list = lisIcons[static_cast<std::size_t>(k)];
-    const files::MultiIconListItem* selected = SelectedItem(k);
-    if (selected == nullptr) return;
-    list->setFocus();
-    if (m_set.Count() < 1) return;
-    if (m_set.Count() == 1) {
-        Tell(files::kLastIconStays);
-        return;
-    }
-    const int index = selected->Index;
-    const int position = list->currentRow();
-    if (!Confirm(files::RemoveQuestion(m_fileSpec))) return;
-
-    files::SetResult removed;
-    {
-        const Hourglass wait;
-        removed = files::RemoveListedImage(m_fileSpec, m_set, index);
-        if (removed) {
-            // The set and the list become what the file now says.
-            m_listGuard = true;
-            ReadListedFile();
-            FillIconList();
-            m_listGuard = false;
-            SelectQuietly(k, files::SelectionAfterRemoval(position, list->count()));
-        }
-    }
-    if (!removed) {
-        // The list keeps its lines while the set stays empty: the file buttons do nothing
-        // more until the dialog is shown again.
-        Tell(removed.Message);
-        return;
-    }
-    Preview(k);
+void frmVexloMultiIcon::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (m_model.FirstActivation()) Activate();
 }
 
-void frmVexloMultiIcon::ClickSplitSave() {
-    const int k = m_addFace;
-    QListWidget* list = lisIcons[static_cast<std::size_t>(k)];
-    if (SelectedItem(k) == nullptr) return;
-    list->setFocus();
-    if (m_set.Count() < 1) return;
-    const std::string folder = GetFolderSpec("");
-    if (folder.empty()) return;
-    const int kept = list->currentRow();
-    const int lines = list->count();
-    const std::string stem = files::SplitSaveStem(folder, m_fileSpec);
-    if (!Confirm(files::SplitSaveQuestion(stem, lines))) return;
+void frmVexloMultiIcon::done(int result) {
+    m_model.Unload();
+    QDialog::done(result);
+}
 
-    // The list walks through the file, each image previewed as its file is written.
-    const std::vector<std::string> paths = files::SplitSavePaths(stem, m_list);
-    for (int p = 0; p < lines && p < m_list.Count(); ++p) {
-        Highlight(p);
-        const Hourglass wait;
-        files::WriteSingleIcon(m_set, m_list.Items[static_cast<std::size_t>(p)].Index,
-                               paths[static_cast<std::size_t>(p)]);
+void frmVexloMultiIcon::Forward(const std::function<void(files::MultiIconManager&)>& step) {
+    step(m_model);
+    Redraw();
+    if (m_model.Closed()) {
+        if (m_model.Choice().empty())
+            reject();
+        else
+            accept();
     }
-    Highlight(kept);
 }
 
-void frmVexloMultiIcon::ClickSaveSingle() {
-    const int k = m_addFace;
-    const files::MultiIconListItem* selected = SelectedItem(k);
-    if (selected == nullptr) return;
-    lisIcons[static_cast<std::size_t>(k)]->setFocus();
-    if (m_set.Count() < 1) return;
-    const files::MultiIconListItem item = *selected;
+void frmVexloMultiIcon::Redraw() {
+    const int k = m_model.AddFace();
+    const auto face = static_cast<std::size_t>(k);
+    IconListBox* list = lisIcons[face];
 
-    utilities::SaveRequest request;
-    request.FileName = files::SingleIconSuggestion(m_fileSpec, item);
-    request.Filter = files::kSingleIconFilter;
-    request.DefaultExt = files::kSingleIconExt;
-    request.OverWritePrompt = true;
-    const std::string path = Dialog().ShowSave(request);
-    if (path.empty()) return;
-    const Hourglass wait;
-    files::WriteSingleIcon(m_set, item.Index, path);
-}
+    // The lines, rebuilt only when they differ, so that the list keeps its scroll position.
+    QStringList lines;
+    for (const files::MultiIconListItem& item : m_model.List().Items) lines << QString::fromStdString(item.Line);
+    bool same = list->count() == lines.size();
+    for (int p = 0; same && p < list->count(); ++p) same = list->item(p)->text() == lines[p];
+    if (!same) list->SetLinesQuietly(lines);
+    if (list->SelectedRow() != m_model.Selected() || list->currentRow() != m_model.Selected())
+        list->SelectQuietly(m_model.Selected());
 
-void frmVexloMultiIcon::ClickSaveAdd(int k) {
-    if (m_addFace != 1) return;
-    if (SelectedItem(1) == nullptr) {
-        Tell(files::kNoIconListed);
-        return;
+    const files::MultiIconButtons buttons = m_model.Buttons();
+    cmdEdit->setEnabled(buttons.Edit);
+    cmdSaveAdd[0]->setEnabled(buttons.Save);
+    cmdSaveAdd[1]->setEnabled(buttons.SaveAs);
+    cmdRemove[face]->setEnabled(buttons.Remove);
+    cmdSplitSave[face]->setEnabled(buttons.SplitSave);
+    cmdSaveSingle[face]->setEnabled(buttons.SaveSingle);
+
+    CentreOn(picIconInFile[face], lblIconInFile[face]);
+    CentreOn(PicCurrIcon, lblCurrIconBase);
+
+    switch (m_model.TakeFocus()) {
+        case files::MultiIconFocus::List: list->setFocus(); break;
+        case files::MultiIconFocus::Save: cmdSaveAdd[0]->setFocus(); break;
+        case files::MultiIconFocus::None: break;
     }
-    // Appended, not assigned from a char pointer: GCC 12 at -O3 gives a false -Wrestrict there.
-    m_choice.clear();
-    m_choice += Face(k) == 0 ? files::kChoiceSave : files::kChoiceSaveAs;
-    accept();
-}
-
-void frmVexloMultiIcon::ClickClose() {
-    m_choice.clear();
-    reject();
-}
-
-std::string frmVexloMultiIcon::GetFolderSpec(const std::string& pattern) {
-    // The folder dialog opens in the program's folder, not extendable.
-    return frmDirDialog::Ask(pattern, QCoreApplication::applicationDirPath().toStdString(), false, this);
 }
 
 }  // namespace vexlo::gui

@@ -59,14 +59,9 @@ bool WindowHost::LoadPicture(const std::string& path, surface::Surface& out) {
 host::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int addMode,
                                              const surface::Surface* iconToAdd,
                                              const std::string& addDescription) {
-    gui::MultiIconResult result = gui::frmVexloMultiIcon::Run(QApplication::activeWindow(), fileSpec,
-                                                             addMode, iconToAdd, addDescription);
-    host::MultiIconAnswer answer;
-    answer.Choice = std::move(result.Choice);
-    answer.Image = std::move(result.Image);
-    answer.Mask = std::move(result.Mask);
-    answer.Alpha = std::move(result.Alpha);
-    return answer;
+    // The dialog asks its questions through this host.
+    return gui::frmVexloMultiIcon::Run(*this, QApplication::activeWindow(), fileSpec, addMode, iconToAdd,
+                                       addDescription);
 }
 
 bool WindowHost::ClipboardHasBitmap() {
