@@ -1,6 +1,7 @@
 // The main window's life: construction, the load, the first activation and the exit.
 #include "gui/shell/frm_vexlo.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
@@ -27,6 +28,8 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     });
     BuildMenus();
     BuildLayout();
+    // Sees every event of the program first, to drop input while the session is busy.
+    qApp->installEventFilter(this);
     m_session.RefreshToolbar();
 }
 

@@ -49,8 +49,11 @@ public:
     // Writes the status bar and the info labels only (pointer moves).
     void SyncStatus();
     // Runs a session operation and redraws the controls afterwards.
+    // Input that arrives while the session lets pending events run in the middle of an
+    // operation is dropped, so that no handler interleaves with another.
     template <typename F>
     void Run(F op) {
+        if (m_session.Busy()) return;
         op(m_session);
         SyncFromModel();
     }

@@ -194,7 +194,29 @@ void FrmVexlo::LayOutIconAndMask() {
     }
 }
 
+namespace {
+
+bool IsUserInput(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Wheel:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
 bool FrmVexlo::eventFilter(QObject* watched, QEvent* event) {
+    if (m_session.Busy() && IsUserInput(event->type())) return true;
     if (watched == m_form && event->type() == QEvent::MouseMove) {
         m_session.PointerOverForm();
         SyncStatus();

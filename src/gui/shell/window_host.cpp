@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QGuiApplication>
 
@@ -32,7 +33,9 @@ host::MsgAnswer WindowHost::MsgBox(const std::string& text, host::MsgButtons but
     return ShowMessageBox(text, buttons, icon, title);
 }
 
-void WindowHost::DoEvents() { QCoreApplication::processEvents(); }
+// Pending events run without user input: a click or key waits in the queue until the
+// operation that let the events run has ended, and then reaches its handler whole.
+void WindowHost::DoEvents() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 void WindowHost::SetHourglass(bool on) {
     if (on) {
