@@ -26,6 +26,7 @@
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
 #include "core/tools/tool_state.h"
+#include "core/tools/tool_strategy.h"
 
 namespace vexlo::session {
 
@@ -60,7 +61,7 @@ struct Directories {
 // What the first activation did with the command line.
 enum class CommandLineResult { Empty, NotFound, Ignored, Loaded, LoadFailed };
 
-class Session {
+class Session : private tools::ToolContext {
 public:
     explicit Session(Host& host);
     Session(const Session&) = delete;
@@ -263,11 +264,26 @@ private:
     // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
     std::string AddToFileDialog(const std::string& path, int c, int bits);
     void ShowSetMessage(const std::string& text, MsgIcon icon);
-    // The pointer's plots (session_plots.cpp) and the shape band.
-    void PlotPaintErase(bool erase);
-    void PlotShape(tools::Tool tool);
-    void PlotOval(bool filled);
-    void DrawOvalBand();
+    // The pointer's event for the tools, in picDisp pixels and cells.
+    tools::ToolEvent ToolEventAt(int x, int y, bool modifier) const;
+    // What the tools see of the session (session_pointer.cpp).
+    Surface& Image() override;
+    Surface& Mask() override;
+    const Surface& Composed() const override;
+    Surface& Temp() override;
+    Surface& ImageTemp() override;
+    Surface& Disp() override;
+    tools::DispRect& Band() override;
+    tools::DispRect& RegionRect() override;
+    tools::DrawState& Draw() override;
+    Color Selected() const override;
+    int BrushIndex() const override;
+    int MagnifyStep() const override;
+    void ShowStroke() override;
+    void Apply(const std::function<void(Surface& image, Surface& mask)>& edit) override;
+    void Record() override;
+    void MarkChanged() override;
+    void RefreshDisplay() override;
     void ShowRegionMeasure();
     void ResetRegionState();
     void CreateColorCharts();
@@ -276,7 +292,7 @@ private:
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);
     // Lets the platform run pending events (DoEvents), with Busy() true meanwhile.
-    void LetPendingEventsRun();
+    void LetPendingEventsRun() override;
     // Every entry from the window starts here: none may start while pending events run in
     // the middle of another (checked in debug builds; the window drops such input).
     void Enter() const;
