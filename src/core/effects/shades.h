@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/icon/icon_colors.h"
 #include "core/surface/surface.h"
 
 namespace vexlo::effects {
@@ -20,9 +21,9 @@ namespace vexlo::effects {
 using surface::Color;
 using surface::Surface;
 
-inline constexpr Color kTransparentGray = 0xC0C0C0;  // PicIcon's transparent background
-inline constexpr Color kWhite = 0xFFFFFF;
-inline constexpr Color kBlack = 0x000000;
+using icon::kBlack;
+using icon::kTransparentGray;  // PicIcon's transparent background
+using icon::kWhite;
 inline constexpr Color kReliefGray = 0x808080;
 
 // ShadeEffectCode: the running effect, numbered as mnuEffectsSub (index 0 is Buttonize).

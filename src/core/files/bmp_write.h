@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/icon/icon_colors.h"
 #include "core/surface/surface.h"
 
 namespace vexlo::files {
@@ -32,7 +33,7 @@ bool WriteBmpFile(const surface::Surface& picture, const std::string& path, std:
 // ---- Import ----------------------------------------------------------------------------
 
 // The gray of the session's transparent color: such pixels of a picture become transparent.
-inline constexpr surface::Color kImportTransparent = 0xC0C0C0;
+inline constexpr surface::Color kImportTransparent = icon::kTransparentGray;
 
 // True for a Surface of 16x16, 32x32 or 48x48.
 bool IsIconSize(const surface::Surface& picture);

@@ -3,6 +3,7 @@
 #include <unordered_set>
 
 #include "core/files/ico_write.h"
+#include "core/icon/icon_colors.h"
 
 namespace vexlo::files {
 
@@ -26,8 +27,8 @@ const std::array<Color, 16>& SixteenColorTable() {
 
 namespace {
 
-constexpr Color kBlack = 0x000000;
-constexpr Color kWhite = 0xFFFFFF;
+using icon::kBlack;
+using icon::kWhite;
 
 bool IsSixteenColor(Color c) {
     const auto& t = SixteenColorTable();

@@ -6,6 +6,7 @@
 
 #include "core/files/ico_format.h"
 #include "core/files/ico_probe.h"
+#include "core/icon/icon_planes.h"
 
 namespace vexlo::files {
 
@@ -130,9 +131,7 @@ bool ReadIconToPreview(Bytes data, surface::Surface& image, surface::Surface& ma
     if (probe.Kind == 0 || probe.Usable == 0 || !IsIconSide(probe.Width)) return false;
     alpha::AlphaArray scratch;
     if (!ReadIconFileToImage(data, probe.Index, image, mask, scratch)) return false;
-    surface::ResizeSurface(composed, image.Width(), image.Height());
-    surface::BitBlt(composed, 0, 0, image.Width(), image.Height(), mask, 0, 0, surface::Rop::SrcAnd);
-    surface::BitBlt(composed, 0, 0, image.Width(), image.Height(), image, 0, 0, surface::Rop::SrcInvert);
+    icon::ComposeResized(image, mask, composed);
     return true;
 }
 

@@ -2,6 +2,7 @@
 #include <unordered_map>
 
 #include "core/files/ico_write.h"
+#include "core/icon/icon_colors.h"
 
 namespace vexlo::files {
 
@@ -9,7 +10,7 @@ using surface::Color;
 
 namespace {
 
-constexpr Color kWhite = 0xFFFFFF;
+using icon::kWhite;
 
 // Index of c in the sixteen-color table, or -1.
 int SixteenIndex(Color c) {

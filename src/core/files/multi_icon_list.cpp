@@ -3,6 +3,7 @@
 #include "core/files/atomic_file.h"
 #include "core/files/ico_messages.h"
 #include "core/files/ico_probe.h"
+#include "core/icon/icon_planes.h"
 
 namespace vexlo::files {
 
@@ -124,11 +125,7 @@ int SelectionAfterRemoval(int removedIndex, int lineCount) {
 // ---- Preview ---------------------------------------------------------------------------
 
 void ComposePreview(const surface::Surface& image, const surface::Surface& mask, surface::Surface& out) {
-    const int w = image.Width();
-    const int h = image.Height();
-    out.Resize(w, h);
-    surface::BitBlt(out, 0, 0, w, h, mask, 0, 0, surface::Rop::SrcAnd);
-    surface::BitBlt(out, 0, 0, w, h, image, 0, 0, surface::Rop::SrcInvert);
+    icon::ComposeResized(image, mask, out);
 }
 
 }  // namespace vexlo::files

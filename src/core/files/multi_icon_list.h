@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "core/files/icon_set.h"
+#include "core/icon/icon_colors.h"
 #include "core/surface/surface.h"
 
 namespace vexlo::files {
@@ -104,7 +105,7 @@ int SelectionAfterRemoval(int removedIndex, int lineCount);
 void ComposePreview(const surface::Surface& image, const surface::Surface& mask, surface::Surface& out);
 
 // The back color of the previews and of the icon to add.
-inline constexpr surface::Color kPreviewBack = 0xC0C0C0;
+inline constexpr surface::Color kPreviewBack = icon::kTransparentGray;
 
 // ---- Texts -----------------------------------------------------------------------------
 

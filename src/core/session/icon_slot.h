@@ -5,18 +5,14 @@
 #include <vector>
 
 #include "core/alpha/alpha_array.h"
+#include "core/icon/icon_planes.h"
 
 namespace vexlo::session {
 
 inline constexpr int kSlotCount = 6;
 
-// SizeCode: 1 = 16x16, 2 = 32x32, 3 = 48x48. Anything else is no icon size.
-constexpr int IconSideOf(int sizeCode) {
-    return sizeCode == 1 ? 16 : sizeCode == 2 ? 32 : sizeCode == 3 ? 48 : 0;
-}
-constexpr int SizeCodeOfSide(int side) {
-    return side == 16 ? 1 : side == 32 ? 2 : side == 48 ? 3 : 0;
-}
+using icon::IconSideOf;
+using icon::SizeCodeOfSide;
 // Editing Area pixels per icon pixel.
 constexpr int MagnifyStepOf(int sizeCode) { return sizeCode == 3 ? 8 : 12; }
 

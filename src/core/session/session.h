@@ -264,6 +264,8 @@ private:
     // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
     std::string AddToFileDialog(const std::string& path, int c, int bits);
     void ShowSetMessage(const std::string& text, MsgIcon icon);
+    // The open dialog with a filter and default extension; the path chosen, or empty.
+    std::string AskOpen(const char* filter, const char* defaultExt);
     // The pointer's event for the tools, in picDisp pixels and cells.
     tools::ToolEvent ToolEventAt(int x, int y, bool modifier) const;
     // What the tools see of the session (session_pointer.cpp).

@@ -42,6 +42,7 @@ void Session::SetPaletteModeForIcon() {
 }
 
 void Session::ReleaseOnColorChart(int k, double x, double y) {
+    Enter();
     if (k < 0 || k > 1) return;
     const Surface& chart = m_charts[static_cast<std::size_t>(k)];
     if (k == 0) {
@@ -59,6 +60,7 @@ std::string Session::Chart16Tooltip(double x, double y) const {
 }
 
 void Session::ReleaseOnColorToUse() {
+    Enter();
     if (!m_form.ColorDoubleClicked) return;
     m_form.ColorDoubleClicked = false;
     m_host.MsgBox(color::SelectedColorValuesText(m_selectedColor), MsgButtons::Ok,
@@ -66,6 +68,7 @@ void Session::ReleaseOnColorToUse() {
 }
 
 void Session::PopColorChart() {
+    Enter();
     const std::int32_t chosen = m_host.ShowColor(-1, true);
     if (chosen >= 0) m_selectedColor = static_cast<Color>(chosen);
 }

@@ -35,11 +35,13 @@ void Session::RefreshToolbar() {
 }
 
 void Session::ClickToolbar(int k) {
+    Enter();
     if (k < 0 || k >= kToolbarCommands) return;
     RunMenuItem(ToolbarButtons()[static_cast<std::size_t>(k)].Runs);
 }
 
 void Session::ClickBrushSize(int i) {
+    Enter();
     if (i < 0 || i > 5) return;
     m_form.BrushSizeIndex = i;
 }
@@ -61,6 +63,7 @@ std::pair<std::string, int> SplitItemName(std::string_view name) {
 }  // namespace
 
 bool Session::RunMenuItem(std::string_view name) {
+    Enter();
     const auto [array, index] = SplitItemName(name);
     using Handler = void (*)(Session&, int);
     static const std::unordered_map<std::string, Handler> kHandlers = {

@@ -50,10 +50,7 @@ bool Session::LoadCursorFile(const std::string& path) {
 }
 
 void Session::OpenCursorFile() {
-    utilities::OpenRequest request;
-    request.Filter = "Cursor files (*.cur)|*.cur|";
-    request.DefaultExt = "cur";
-    const std::string path = m_host.ShowOpen(request);
+    const std::string path = AskOpen("Cursor files (*.cur)|*.cur|", "cur");
     if (path.empty()) return;
     if (LoadCursorFile(path)) {
         m_currentPath = path;
@@ -97,10 +94,8 @@ bool Session::SaveCursorTo(const std::string& path) {
 
 void Session::OpenBitmapFile() {
     if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    utilities::OpenRequest request;
-    request.Filter = "(bmp/gif/jpg)|*.bmp;*.gif;*.jpg|(wfm/emf)|*.wfm;*.emf|(*.*)|*.*|";
-    request.DefaultExt = "bmp";
-    const std::string path = m_host.ShowOpen(request);
+    const std::string path =
+        AskOpen("(bmp/gif/jpg)|*.bmp;*.gif;*.jpg|(wfm/emf)|*.wfm;*.emf|(*.*)|*.*|", "bmp");
     if (path.empty()) return;
     m_icon.Temp().Clear();
     m_icon.Auto().Clear();

@@ -21,6 +21,13 @@ std::string UpperCase(std::string s) {
 
 }  // namespace
 
+std::string Session::AskOpen(const char* filter, const char* defaultExt) {
+    utilities::OpenRequest request;
+    request.Filter = filter;
+    request.DefaultExt = defaultExt;
+    return m_host.ShowOpen(request);
+}
+
 bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     const files::ProbeAnswer probe = files::ProbeIconFile(path, true);
     if (probe.Kind == 0) {
@@ -87,10 +94,7 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
 }
 
 void Session::OpenIconFile() {
-    utilities::OpenRequest request;
-    request.Filter = kIcoFilter;
-    request.DefaultExt = "ico";
-    const std::string path = m_host.ShowOpen(request);
+    const std::string path = AskOpen(kIcoFilter, "ico");
     if (path.empty()) return;
     if (LoadIconFile(path, true)) {
         m_currentPath = path;

@@ -119,10 +119,7 @@ void Session::mnuFileSaveMultiIconReplace() {
 void Session::mnuFileSaveMultiIconAddTo() {
     if (!NeedsIconInArea() || Current().MultiIconFile) return;
     if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    utilities::OpenRequest request;
-    request.Filter = "Icon files (*.ico)|*.ico|";
-    request.DefaultExt = "ico";
-    const std::string path = m_host.ShowOpen(request);
+    const std::string path = AskOpen("Icon files (*.ico)|*.ico|", "ico");
     if (path.empty()) return;
     if (path == Current().FileSpec) {
         ShowSetMessage(files::kCannotAddToItself, MsgIcon::None);

@@ -27,6 +27,7 @@ void Session::ResetDrawState() {
 }
 
 void Session::ClickTool(Tool tool) {
+    Enter();
     if (tool == Tool::None) return;
     if (!InArea()) {
         ClearTools();
@@ -45,6 +46,7 @@ void Session::ClickTool(Tool tool) {
 }
 
 void Session::ClickColorPicker() {
+    Enter();
     if (!InArea()) {
         m_form.ColorPickerSelected = false;
         m_host.MsgBox(kNoIconYet, MsgButtons::Ok, MsgIcon::None, kTitle);
@@ -59,6 +61,7 @@ void Session::ClickColorPicker() {
 }
 
 void Session::ClickClearAllTools() {
+    Enter();
     if (InArea() && m_view.Region().Exists) TakeUndoSnapshot();
     ClearTools();
     ResetDrawState();
