@@ -1,4 +1,5 @@
-// The load, the first activation with its command line, and the exit question.
+// The load, the first activation with its command line, the exit question, and the guard
+// against an operation that starts while another lets pending events run.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -90,6 +91,32 @@ TEST_F(Lifecycle, CommandLineLosesQuotesAndExtensionIsUpperCased) {
         EXPECT_EQ(CommandLinePath(c.line), c.path);
         EXPECT_EQ(UpperExtension3(CommandLinePath(c.line)), c.ext);
     }
+}
+
+// Pending events that start another operation: the platform's stand-in for a click that
+// arrives while File New lets events run.
+class ReenteringHost : public test::ScriptedHost {
+public:
+    void DoEvents() override {
+        if (session == nullptr) return;
+        busyDuringEvents = busyDuringEvents || session->Busy();
+        session->ClickPanel(3);
+    }
+    Session* session = nullptr;
+    bool busyDuringEvents = false;
+};
+
+TEST(Reentry, AnEntryWhilePendingEventsRunIsCaughtInDebugBuilds) {
+    ReenteringHost host;
+    Session s(host);
+    ASSERT_TRUE(s.Load(1024, 768));
+    EXPECT_FALSE(s.Busy());
+    host.session = &s;
+    EXPECT_DEBUG_DEATH(s.FileNew(0), "another let pending events run");
+#ifdef NDEBUG
+    EXPECT_TRUE(host.busyDuringEvents);
+    EXPECT_FALSE(s.Busy());
+#endif
 }
 
 }  // namespace
