@@ -1,6 +1,7 @@
 // info, export and split: the commands that read what each image of a file really holds.
 #include <charconv>
 #include <filesystem>
+#include <functional>
 
 #include "cli/cli_support.h"
 #include "cli/icon_entries.h"
@@ -12,10 +13,11 @@ namespace vexlo::cli {
 
 namespace {
 
-// The file's header and directory, and every entry decoded; the first entry that fails
-// refuses the file. images may be null when only the check is wanted.
-bool ReadWholeIconFile(const std::string& path, files::Bytes bytes, IconDirectory& dir,
-                       std::vector<EntryImage>* images, std::string& err) {
+// The file's header and directory, and every entry decoded, one at a time (no more than one
+// image's pixels are held, however many entries the directory names); each is handed to
+// each, if given. The first entry that fails refuses the file.
+bool ReadWholeIconFile(const std::string& path, files::Bytes bytes, IconDirectory& dir, std::string& err,
+                       const std::function<void(std::size_t, const EntryImage&)>& each = {}) {
     std::string why;
     if (!ReadIconDirectory(bytes, dir, why)) {
         Fail(err, path + ": " + why);
@@ -27,7 +29,7 @@ bool ReadWholeIconFile(const std::string& path, files::Bytes bytes, IconDirector
             Fail(err, path + ": image " + std::to_string(i) + ": " + why);
             return false;
         }
-        if (images) images->push_back(std::move(image));
+        if (each) each(i, image);
     }
     return true;
 }
@@ -39,18 +41,18 @@ int Info(const std::vector<std::string>& a, std::string& out, std::string& err) 
     std::vector<std::uint8_t> data;
     if (!ReadInputFile(a[0], data, err)) return 1;
     IconDirectory dir;
-    std::vector<EntryImage> images;
-    if (!ReadWholeIconFile(a[0], files::Bytes(data.data(), data.size()), dir, &images, err)) return 1;
-    for (std::size_t i = 0; i < dir.Entries.size(); ++i) {
+    std::string lines;  // printed only when every image reads
+    const auto line = [&dir, &lines](std::size_t i, const EntryImage& image) {
         const IconEntry& e = dir.Entries[i];
-        const EntryImage& image = images[i];
-        out += std::to_string(i) + " " + std::to_string(e.Width) + "x" + std::to_string(e.Height) + " " +
-               std::to_string(image.Bits) + " " + std::to_string(image.Colors) + " " +
-               std::to_string(e.BytesInRes) + " " + std::to_string(e.ImageOffset) + " ok";
-        if (image.Png) out += " png";
-        if (dir.IsCursor()) out += " hotspot " + std::to_string(e.Planes) + "," + std::to_string(e.BitCount);
-        out += "\n";
-    }
+        lines += std::to_string(i) + " " + std::to_string(e.Width) + "x" + std::to_string(e.Height) + " " +
+                 std::to_string(image.Bits) + " " + std::to_string(image.Colors) + " " +
+                 std::to_string(e.BytesInRes) + " " + std::to_string(e.ImageOffset) + " ok";
+        if (image.Png) lines += " png";
+        if (dir.IsCursor()) lines += " hotspot " + std::to_string(e.Planes) + "," + std::to_string(e.BitCount);
+        lines += "\n";
+    };
+    if (!ReadWholeIconFile(a[0], files::Bytes(data.data(), data.size()), dir, err, line)) return 1;
+    out += lines;
     return 0;
 }
 
@@ -82,7 +84,7 @@ int Split(const std::vector<std::string>& a, std::string& out, std::string& err)
     if (!ReadInputFile(a[0], data, err)) return 1;
     const files::Bytes bytes(data.data(), data.size());
     IconDirectory dir;
-    if (!ReadWholeIconFile(a[0], bytes, dir, nullptr, err)) return 1;
+    if (!ReadWholeIconFile(a[0], bytes, dir, err)) return 1;
     if (dir.IsCursor()) return Fail(err, a[0] + ": a cursor file; split takes icon files");
     files::IconSet set;
     files::IconSetError setError = files::IconSetError::None;
