@@ -3,17 +3,18 @@
 # folder of icons, "vexlo-cli info" against "icotool -l" and "vexlo-cli export FILE 0 OUT.png"
 # against "icotool -x". The two tools take turns, round by round, in the same run; each
 # round's loop is run by /bin/sh. Prints the median files per second of each tool over the
-# rounds and the ratio (vexlo-cli / icotool), and for scale a loop of /bin/true, the cost of
-# starting any process here.
+# rounds, and the ratio (vexlo-cli / icotool) as the median of each round's ratio, so that a
+# machine whose speed drifts during the run moves both tools of a round alike. A loop of
+# /bin/true gives the scale: the cost of starting any small process here.
 #
 #   usage: bench/cli_vs_icotool.sh [VEXLO_CLI] [ICON_FOLDER] [ROUNDS]
 #   VEXLO_CLI     default: build/vexlo-cli
 #   ICON_FOLDER   single-image icon files; default: 100 made by bench/make_bench_icons.py
-#   ROUNDS        default: 7
+#   ROUNDS        default: 9
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
-cli="$(realpath "${1:-$root/build/vexlo-cli}")"
-rounds="${3:-7}"
+cli="$(realpath -m "${1:-$root/build/vexlo-cli}")"
+rounds="${3:-9}"
 command -v icotool >/dev/null || { echo "icotool is missing (apt-get install icoutils)" >&2; exit 1; }
 [ -x "$cli" ] || { echo "no program at $cli (build the vexlo-cli target)" >&2; exit 1; }
 
@@ -67,13 +68,17 @@ for ((r = 0; r < rounds; r++)); do
 done
 
 rate() { printf '%s' "${times[$1]}" | median | awk -v n="$count" '{ printf "%.0f", n / $1 }'; }
+# The median over the rounds of icotool's seconds over vexlo-cli's in the same round.
+ratio() {
+  paste <(printf '%s' "${times[$1-icotool]}") <(printf '%s' "${times[$1-vexlo]}") |
+    awk '{ print $1 / $2 }' | median | awk '{ printf "%.2f", $1 }'
+}
 echo "$count icons, one process per file, median of $rounds rounds (loops run by /bin/sh)"
 printf '%-8s %-26s %8s   %-16s %8s   %s\n' "" "" "files/s" "" "files/s" "ratio"
 for job in list extract; do
   ours="$(rate "$job-vexlo")"
   theirs="$(rate "$job-icotool")"
   if [ "$job" = list ]; then a="vexlo-cli info"; b="icotool -l"; else a="vexlo-cli export"; b="icotool -x"; fi
-  printf '%-8s %-26s %8s   %-16s %8s   %sx\n' "$job" "$a" "$ours" "$b" "$theirs" \
-    "$(awk -v a="$ours" -v b="$theirs" 'BEGIN { printf "%.2f", a / b }')"
+  printf '%-8s %-26s %8s   %-16s %8s   %sx\n' "$job" "$a" "$ours" "$b" "$theirs" "$(ratio "$job")"
 done
 printf '%-8s %-26s %8s   (a dynamically linked program that does nothing)\n' "floor" "/bin/true" "$(rate floor)"
