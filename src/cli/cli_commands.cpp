@@ -1,18 +1,10 @@
 #include "cli/cli_commands.h"
 
-#include <charconv>
-#include <ostream>
-
+#include "cli/cli_support.h"
 #include "cli/picture_io.h"
 #include "core/files/byte_reader.h"
-#include "core/files/ico_format.h"
 #include "core/files/ico_probe.h"
-#include "core/files/ico_read.h"
 #include "core/files/ico_write.h"
-#include "core/files/cursor_file.h"
-#include "core/files/icon_set.h"
-#include "core/files/multi_icon_list.h"
-#include <filesystem>
 
 namespace vexlo::cli {
 
@@ -21,18 +13,21 @@ namespace {
 constexpr const char* kUsage =
     "usage: vexlo-cli COMMAND [ARGS]\n"
     "\n"
-    "Inspect and convert icons the way the Vexlo editor reads and writes them.\n"
+    "Inspect and convert icons. 'probe' judges a file as the Vexlo editor does; 'info',\n"
+    "'export' and 'split' read what each image of an icon or cursor file really holds and\n"
+    "refuse a file they cannot read whole; 'convert' saves as the editor saves.\n"
     "\n"
     "commands:\n"
     "  probe FILE                     the editor's judgement of an icon file\n"
-    "  info FILE                      one line per image of an icon file\n"
-    "  export FILE INDEX OUT.png      one image of an icon file as an RGBA PNG\n"
+    "  info FILE                      one line per image of an icon or cursor file\n"
+    "  export FILE INDEX OUT.png      one image of an icon or cursor file as an RGBA PNG\n"
     "  convert IN OUT.ico [--force256]\n"
     "                                 a 16x16, 32x32 or 48x48 PNG, BMP or ICO picture\n"
     "                                 saved as the editor saves it\n"
     "  split FILE OUTDIR              every listed image of a multi-icon file as a\n"
     "                                 single-icon file, bytes unchanged\n"
     "\n"
+    "A refused file or argument gives exit status 1 and one line on stderr.\n"
     "'vexlo-cli COMMAND --help' tells more of one command.\n";
 
 constexpr const char* kProbeHelp =
@@ -40,31 +35,44 @@ constexpr const char* kProbeHelp =
     "Prints the six fields of the editor's judgement, joined by '/':\n"
     "kind (0 no icon file, 1 one image, 2 several), usable images, chosen index, its width,\n"
     "its colors (2, 16, 256, -1 for true color) and its bits per pixel, e.g. 2/3/2/32/256/8.\n"
-    "The chosen image is the one the editor opens without asking.\n";
+    "The chosen image is the one the editor opens without asking. A file that is no icon\n"
+    "file answers 0/0/0/0/0/0 with exit status 0.\n";
 
 constexpr const char* kInfoHelp =
     "usage: vexlo-cli info FILE\n"
-    "One line per directory entry: index, width x height, bits per pixel, colors (-1 for\n"
-    "true color), bytes in resource, offset, and 'ok' if the image decodes or 'bad'.\n"
-    "For a cursor file the line ends with 'hotspot X,Y'.\n";
+    "Reads every image of an icon (ICO) or cursor (CUR) file and prints one line per\n"
+    "directory entry: index, width x height, bits per pixel, colors (entries of its color\n"
+    "table or palette, -1 for none), bytes in resource, offset and 'ok'; then 'png' for an\n"
+    "image stored as PNG, and for a cursor 'hotspot X,Y'. Bits and colors are the image's\n"
+    "own (its header or its PNG), not the directory's.\n"
+    "Refused, with nothing printed: a file that is not an icon or cursor file, and a file\n"
+    "with any image that cannot be read whole: data over the directory or past the end of\n"
+    "the file, an image header of an unknown size, planes other than 1, a bit count other\n"
+    "than 1, 4, 8, 24 or 32, compression (RLE, bit fields), a width or height other than the\n"
+    "directory's, rows cut short, a color index past the table, a broken PNG.\n";
 
 constexpr const char* kExportHelp =
     "usage: vexlo-cli export FILE INDEX OUT.png\n"
-    "Decodes image INDEX (from 0) as the editor does and writes an RGBA PNG: the color of\n"
-    "the image plane, alpha 0 where the mask is set, and for 32-bit images the file's alpha.\n"
-    "A cursor file has one image, INDEX 0.\n";
+    "Decodes image INDEX (from 0) of an icon or cursor file as the file holds it and writes\n"
+    "an RGBA PNG of its size. A PNG image gives its own pixels. Any other gives the colors of\n"
+    "its color rows with alpha 0 where its mask is set; a 32-bit image gives its own alpha\n"
+    "(its mask's when all its alpha bytes are 0; it may have no mask rows). An image that\n"
+    "cannot be read whole is refused as 'info' refuses it.\n";
 
 constexpr const char* kSplitHelp =
     "usage: vexlo-cli split FILE OUTDIR\n"
-    "Writes every 16x16, 32x32 or 48x48 image of FILE as a single-icon file in OUTDIR,\n"
-    "named as the editor's Split Save names them (stem_size_colors.ico, 'bpp' for true\n"
-    "color), with the image's bytes copied unchanged. Prints each file written.\n";
+    "Reads every image of the icon file FILE as 'info' does and refuses the file if one\n"
+    "cannot be read. Then writes every 16x16, 32x32 or 48x48 image as a single-icon file in\n"
+    "OUTDIR, named as the editor's Split Save names them (stem_size_colors.ico, 'bpp' for\n"
+    "true color), with the image's bytes copied unchanged. Prints each file written.\n";
 
 constexpr const char* kConvertHelp =
     "usage: vexlo-cli convert IN OUT.ico [--force256]\n"
-    "Reads a PNG, BMP or ICO picture of 16x16, 32x32 or 48x48 (a pixel with alpha below 128\n"
-    "is transparent) and writes a single-icon file whose depth follows the pixels, as a save\n"
-    "in the editor does. --force256 writes 2- and 16-color pictures at 256 colors.\n";
+    "Reads a picture of 16x16, 32x32 or 48x48, told by its first bytes: a PNG, a BMP (1, 4,\n"
+    "8, 24 or 32 bits, uncompressed or 32-bit bit fields; a pixel with alpha below 128 is\n"
+    "transparent) or an icon file (the image the editor opens, read as the editor reads it).\n"
+    "Writes a single-icon file whose depth follows the pixels, as a save in the editor does.\n"
+    "--force256 writes 2- and 16-color pictures at 256 colors.\n";
 
 bool WantsHelp(const std::vector<std::string>& args) {
     for (const std::string& a : args)
@@ -72,99 +80,15 @@ bool WantsHelp(const std::vector<std::string>& args) {
     return false;
 }
 
-int Fail(std::ostream& err, const std::string& message) {
-    err << "vexlo-cli: " << message << "\n";
-    return 1;
-}
-
-bool ReadFile(const std::string& path, std::vector<std::uint8_t>& data, std::ostream& err) {
-    switch (files::ReadWholeFile(path, data)) {
-        case files::FileReadStatus::Ok: return true;
-        case files::FileReadStatus::NotFound: Fail(err, path + ": no such file"); break;
-        case files::FileReadStatus::NotRegular: Fail(err, path + ": not a regular file"); break;
-        case files::FileReadStatus::TooLarge: Fail(err, path + ": file too large"); break;
-        case files::FileReadStatus::ReadError: Fail(err, path + ": cannot read"); break;
-    }
-    return false;
-}
-
-int Probe(const std::vector<std::string>& a, std::ostream& out, std::ostream& err) {
+int Probe(const std::vector<std::string>& a, std::string& out, std::string& err) {
     if (a.size() != 1) return Fail(err, "probe takes one FILE (see 'vexlo-cli probe --help')");
     std::vector<std::uint8_t> data;
-    if (!ReadFile(a[0], data, err)) return 1;
-    out << files::ProbeIconFile(files::Bytes(data.data(), data.size()), true).Text() << "\n";
+    if (!ReadInputFile(a[0], data, err)) return 1;
+    out += files::ProbeIconFile(files::Bytes(data.data(), data.size()), true).Text() + "\n";
     return 0;
 }
 
-int Info(const std::vector<std::string>& a, std::ostream& out, std::ostream& err) {
-    if (a.size() != 1) return Fail(err, "info takes one FILE (see 'vexlo-cli info --help')");
-    std::vector<std::uint8_t> data;
-    if (!ReadFile(a[0], data, err)) return 1;
-    const files::Bytes bytes(data.data(), data.size());
-    const files::CursorProbe cursor = files::ProbeCursorFile(bytes);
-    if (cursor.Valid) {
-        files::CursorImage image;
-        const bool decodes = files::ReadCursorFile(bytes, image);
-        files::IconFileHeader header;
-        std::vector<files::IconDirEntry> entries;
-        files::ReadIconDirectory(bytes, header, entries);
-        const files::IconDirEntry e = entries.empty() ? files::IconDirEntry{} : entries[0];
-        out << 0 << " " << int{e.Width} << "x" << int{e.Height} << " " << cursor.BitCount << " "
-            << cursor.Colors << " " << e.BytesInRes << " " << e.ImageOffset << " "
-            << (decodes ? "ok" : "bad") << " hotspot " << cursor.HotspotX << "," << cursor.HotspotY << "\n";
-        return 0;
-    }
-    files::IconFileHeader header;
-    std::vector<files::IconDirEntry> entries;
-    if (!files::ReadIconDirectory(bytes, header, entries))
-        return Fail(err, a[0] + ": not an icon file");
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        const files::IconDirEntry& e = entries[i];
-        surface::Surface image, mask;
-        alpha::AlphaArray alpha;
-        const bool decodes = files::ReadIconFileToImage(bytes, static_cast<int>(i), image, mask, alpha);
-        out << i << " " << int{e.Width} << "x" << int{e.Height} << " " << e.BitCount << " "
-            << files::ColorCountOfEntry(e) << " " << e.BytesInRes << " " << e.ImageOffset << " "
-            << (decodes ? "ok" : "bad") << "\n";
-    }
-    return 0;
-}
-
-int Export(const std::vector<std::string>& a, std::ostream& err) {
-    if (a.size() != 3) return Fail(err, "export takes FILE INDEX OUT.png (see 'vexlo-cli export --help')");
-    int index = -1;
-    const auto [end, ec] = std::from_chars(a[1].data(), a[1].data() + a[1].size(), index);
-    if (ec != std::errc() || end != a[1].data() + a[1].size() || index < 0)
-        return Fail(err, "INDEX must be a whole number from 0: " + a[1]);
-    std::vector<std::uint8_t> data;
-    if (!ReadFile(a[0], data, err)) return 1;
-    const files::Bytes bytes(data.data(), data.size());
-    std::string error;
-    if (files::ProbeCursorFile(bytes).Valid) {
-        if (index != 0) return Fail(err, a[0] + " is a cursor of one image; no image " + a[1]);
-        files::CursorImage cursor;
-        if (!files::ReadCursorFile(bytes, cursor)) return Fail(err, a[0] + ": the cursor cannot be decoded");
-        IconPlanes icon;
-        icon.Image = surface::Surface(32, 32, 0);
-        icon.Mask = surface::Surface(32, 32, 0);
-        files::DrawCursorFrame(cursor, icon.Image, 0, 0, files::CursorDraw::Image);
-        files::DrawCursorFrame(cursor, icon.Mask, 0, 0, files::CursorDraw::Mask);
-        return WritePng(icon, a[2], error) ? 0 : Fail(err, error);
-    }
-    files::IconFileHeader header;
-    std::vector<files::IconDirEntry> entries;
-    if (!files::ReadIconDirectory(bytes, header, entries))
-        return Fail(err, a[0] + ": not an icon file");
-    if (static_cast<std::size_t>(index) >= entries.size())
-        return Fail(err, a[0] + " has " + std::to_string(entries.size()) + " image(s); no image " + a[1]);
-    IconPlanes icon;
-    if (!files::ReadIconFileToImage(bytes, index, icon.Image, icon.Mask, icon.Alpha))
-        return Fail(err, a[0] + ": image " + a[1] + " cannot be decoded");
-    icon.HasAlpha = entries[static_cast<std::size_t>(index)].BitCount == 32 && !icon.Alpha.IsSingle();
-    return WritePng(icon, a[2], error) ? 0 : Fail(err, error);
-}
-
-int Convert(const std::vector<std::string>& a, std::ostream& err) {
+int Convert(const std::vector<std::string>& a, std::string& err) {
     std::vector<std::string> paths;
     bool force256 = false;
     for (const std::string& s : a) {
@@ -190,35 +114,33 @@ int Convert(const std::vector<std::string>& a, std::ostream& err) {
     return 0;
 }
 
-int Split(const std::vector<std::string>& a, std::ostream& out, std::ostream& err) {
-    if (a.size() != 2) return Fail(err, "split takes FILE OUTDIR (see 'vexlo-cli split --help')");
-    std::error_code ec;
-    if (!std::filesystem::is_directory(a[1], ec)) return Fail(err, a[1] + ": not a folder");
-    files::IconSet set;
-    if (files::ReadIconSet(a[0], set) < 1) return Fail(err, a[0] + ": not an icon file");
-    const files::MultiIconList list = files::BuildMultiIconList(set);
-    if (list.Empty()) return Fail(err, a[0] + ": no image of 16x16, 32x32 or 48x48");
-    const std::vector<std::string> paths = files::SplitSavePaths(files::SplitSaveStem(a[1], a[0]), list);
-    for (int i = 0; i < list.Count(); ++i) {
-        const std::string& path = paths[static_cast<std::size_t>(i)];
-        if (!files::WriteSingleIcon(set, list.Items[static_cast<std::size_t>(i)].Index, path))
-            return Fail(err, path + ": cannot write");
-        out << path << "\n";
-    }
-    return 0;
-}
-
 }  // namespace
 
-int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int Fail(std::string& err, const std::string& message) {
+    err += "vexlo-cli: " + message + "\n";
+    return 1;
+}
+
+bool ReadInputFile(const std::string& path, std::vector<std::uint8_t>& data, std::string& err) {
+    switch (files::ReadWholeFile(path, data)) {
+        case files::FileReadStatus::Ok: return true;
+        case files::FileReadStatus::NotFound: Fail(err, path + ": no such file"); break;
+        case files::FileReadStatus::NotRegular: Fail(err, path + ": not a regular file"); break;
+        case files::FileReadStatus::TooLarge: Fail(err, path + ": file too large"); break;
+        case files::FileReadStatus::ReadError: Fail(err, path + ": cannot read"); break;
+    }
+    return false;
+}
+
+int RunCli(const std::vector<std::string>& args, std::string& out, std::string& err) {
     if (args.empty()) {
-        err << kUsage;
+        err += kUsage;
         return 1;
     }
     const std::string& command = args[0];
     const std::vector<std::string> rest(args.begin() + 1, args.end());
     if (command == "--help" || command == "-h" || command == "help") {
-        out << kUsage;
+        out += kUsage;
         return 0;
     }
     struct Entry {
@@ -231,7 +153,7 @@ int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
-            out << c.help;
+            out += c.help;
             return 0;
         }
         if (command == "probe") return Probe(rest, out, err);

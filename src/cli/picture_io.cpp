@@ -1,8 +1,12 @@
 #include "cli/picture_io.h"
 
-#include <QImage>
-#include <QString>
+#include <cstdint>
+#include <vector>
 
+#include "cli/bmp_read.h"
+#include "cli/png_io.h"
+#include "core/files/byte_reader.h"
+#include "core/files/ico_format.h"
 #include "core/files/ico_probe.h"
 #include "core/files/ico_read.h"
 
@@ -10,17 +14,21 @@ namespace vexlo::cli {
 
 namespace {
 
-bool IsIconSide(int side) { return side == 16 || side == 32 || side == 48; }
+bool IsIconPictureSize(int w, int h, std::string& why) {
+    if (w == h && files::IsIconSide(w)) return true;
+    why = "the picture is " + std::to_string(w) + "x" + std::to_string(h) + ", not 16x16, 32x32 or 48x48";
+    return false;
+}
 
-bool ReadIco(const std::string& path, IconPlanes& out, std::string& error) {
-    const files::ProbeAnswer probe = files::ProbeIconFile(path, true);
+bool ReadIco(files::Bytes data, const std::string& path, IconPlanes& out, std::string& error) {
+    const files::ProbeAnswer probe = files::ProbeIconFile(data, true);
     if (probe.Kind == 0 || probe.Usable == 0) {
-        error = "not an icon file of 16x16, 32x32 or 48x48: " + path;
+        error = path + ": not an icon file of 16x16, 32x32 or 48x48";
         return false;
     }
     out.Alpha.SetSingle();
-    if (!files::ReadIconFileToImage(path, probe.Index, out.Image, out.Mask, out.Alpha)) {
-        error = "cannot decode image " + std::to_string(probe.Index) + " of " + path;
+    if (!files::ReadIconFileToImage(data, probe.Index, out.Image, out.Mask, out.Alpha)) {
+        error = path + ": cannot decode image " + std::to_string(probe.Index);
         return false;
     }
     out.HasAlpha = probe.BitCount == 32 && !out.Alpha.IsSingle();
@@ -31,49 +39,39 @@ bool ReadIco(const std::string& path, IconPlanes& out, std::string& error) {
 }  // namespace
 
 bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error) {
-    const QString qpath = QString::fromStdString(path);
-    if (qpath.endsWith(".ico", Qt::CaseInsensitive)) return ReadIco(path, out, error);
-    QImage picture(qpath);
-    if (picture.isNull()) {
-        error = "cannot read the picture " + path;
+    std::vector<std::uint8_t> data;
+    if (files::ReadWholeFile(path, data) != files::FileReadStatus::Ok) {
+        error = path + ": cannot read the file";
         return false;
     }
-    if (picture.width() != picture.height() || !IsIconSide(picture.width())) {
-        error = "the picture is " + std::to_string(picture.width()) + "x" +
-                std::to_string(picture.height()) + ", not 16x16, 32x32 or 48x48";
+    const files::Bytes bytes(data.data(), data.size());
+    if (bytes.size() >= 4 && bytes[0] == 0 && bytes[1] == 0 && bytes[2] == 1 && bytes[3] == 0)
+        return ReadIco(bytes, path, out, error);
+    RgbaImage picture;
+    std::string why;
+    bool read = false;
+    if (IsPng(bytes))
+        read = ReadPng(bytes, IsIconPictureSize, picture, nullptr, why);
+    else if (bytes.size() >= 2 && bytes[0] == 'B' && bytes[1] == 'M')
+        read = ReadBmp(bytes, IsIconPictureSize, picture, why);
+    else
+        why = "not a PNG, BMP or ICO picture";
+    if (!read) {
+        error = path + ": " + why;
         return false;
     }
-    picture = picture.convertToFormat(QImage::Format_ARGB32);
-    const int side = picture.width();
+    const int side = picture.Width;
     out.Image = surface::Surface(side, side, 0xFFFFFF);
     out.Mask = surface::Surface(side, side, 0xFFFFFF);
     out.Alpha.SetSingle();
     out.HasAlpha = false;
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            const QRgb p = picture.pixel(x, y);
-            const bool transparent = qAlpha(p) < 128;
-            out.Image.SetPixelV(x, y, transparent ? 0 : surface::Rgb(qRed(p), qGreen(p), qBlue(p)));
+            const std::uint8_t* p = picture.At(x, y);
+            const bool transparent = p[3] < 128;
+            out.Image.SetPixelV(x, y, transparent ? 0 : surface::Rgb(p[0], p[1], p[2]));
             out.Mask.SetPixelV(x, y, transparent ? 0xFFFFFF : 0);
         }
-    }
-    return true;
-}
-
-bool WritePng(const IconPlanes& icon, const std::string& path, std::string& error) {
-    const int side = icon.Image.Width();
-    QImage png(side, side, QImage::Format_ARGB32);
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            const surface::Color c = icon.Image.GetPixel(x, y);
-            int a = icon.Mask.GetPixel(x, y) == 0xFFFFFF ? 0 : 255;
-            if (icon.HasAlpha && icon.Alpha.Contains(x, y)) a = icon.Alpha.At(x, y);
-            png.setPixel(x, y, qRgba(surface::RedOf(c), surface::GreenOf(c), surface::BlueOf(c), a));
-        }
-    }
-    if (!png.save(QString::fromStdString(path), "PNG")) {
-        error = "cannot write " + path;
-        return false;
     }
     return true;
 }

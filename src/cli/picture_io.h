@@ -1,6 +1,6 @@
 #pragma once
-// Pictures in and out of vexlo-cli: the two planes of an icon from a PNG, BMP or ICO file, and
-// an icon's planes out as an RGBA PNG.
+// The pictures that convert reads: PNG through libpng, BMP through our own reader, and icon
+// files as the editor opens them.
 #include <string>
 
 #include "core/alpha/alpha_array.h"
@@ -16,12 +16,9 @@ struct IconPlanes {
     bool HasAlpha = false;    // a 32-bit icon file's alpha values came with it
 };
 
-// Reads a picture of 16x16, 32x32 or 48x48: an ICO file (the image that the editor opens) or
-// any picture Qt reads; a pixel with alpha below 128 becomes transparent. False with a reason.
+// Reads a picture of 16x16, 32x32 or 48x48, told by its first bytes: a PNG or a BMP (a pixel
+// with alpha below 128 becomes transparent), or an icon file (the image that the editor opens
+// without asking, decoded by the editor's reader). False with a reason naming the file.
 bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error);
-
-// Writes the planes as an RGBA PNG: the image plane's color, alpha 0 where the mask is set,
-// or for an icon with alpha values those values. False with a reason.
-bool WritePng(const IconPlanes& icon, const std::string& path, std::string& error);
 
 }  // namespace vexlo::cli
