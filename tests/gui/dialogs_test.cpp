@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -99,70 +100,41 @@ struct IconFolder {
     std::string Sub() const { return dir.filePath(QStringLiteral("sub.ico")).toStdString(); }
 };
 
-TEST(DirDialog, OkAsksOnlyWhenThePatternFindsNoFile) {
+// The question's text and when it comes are the model's; here cmdOK reaches the program's
+// message box, and its answer decides whether the dialog closes.
+TEST(DirDialog, OkAsksThroughTheMessageBoxAndNoKeepsTheDialog) {
     CurrentDirGuard cwd;
     IconFolder icons;
-    const struct {
-        const char* pattern;
-        bool inIconFolder;
-        std::vector<MsgAnswer> answers;
-        bool closes;
-    } cases[] = {
-        {"*.ico", false, {MsgAnswer::No}, false},
-        {"*.ico", false, {MsgAnswer::Yes}, true},
-        {"*.ico", true, {}, true},
-        {"*.ani", true, {MsgAnswer::No}, false},
-        {"", false, {}, true},
-        {"", true, {}, true},
-        {"*.*", false, {}, true},  // 3 characters: no question
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.pattern) + (c.inIconFolder ? " in icons" : " in empty"));
+    for (const MsgAnswer answer : {MsgAnswer::No, MsgAnswer::Yes}) {
         test::ScriptedHost host;
         test::ScopedScriptedDialogs scripted(host);
-        for (MsgAnswer a : c.answers) host.Answer(a);
-        const std::string folder = c.inIconFolder ? icons.Path() : icons.Sub();
-        frmDirDialog dlg(c.pattern, folder, false);
+        host.Answer(answer);
+        frmDirDialog dlg("*.ico", icons.Sub(), false);
         dlg.show();
-        EXPECT_EQ(dlg.ClickOK(), c.closes);
-        EXPECT_EQ(dlg.result() == QDialog::Accepted, c.closes);
-        EXPECT_EQ(dlg.ChosenFolder(), folder);
-        ASSERT_EQ(host.shown.size(), c.answers.size());
-        if (!c.answers.empty()) {
-            const std::string ext = std::string(c.pattern).substr(2);
-            EXPECT_EQ(host.shown[0].text, "There is no " + ext +
-                                              " files directly in selected folder.\r\n"
-                                              "Proceed still?");
-            EXPECT_EQ(host.shown[0].buttons, host::MsgButtons::YesNo);
-            EXPECT_EQ(host.shown[0].title, "Vexlo");
-        }
+        dlg.cmdOK->click();
+        ASSERT_EQ(host.shown.size(), 1u);
+        EXPECT_EQ(host.shown[0].text,
+                  "There is no ico files directly in selected folder.\r\nProceed still?");
+        EXPECT_EQ(dlg.result() == QDialog::Accepted, answer == MsgAnswer::Yes);
+        EXPECT_EQ(dlg.isVisible(), answer == MsgAnswer::No);
+        EXPECT_EQ(dlg.ChosenFolder(), icons.Sub());
     }
 }
 
-TEST(DirDialog, CountsThePatternsFilesInTheOpenFolder) {
+TEST(DirDialog, ShowsTheModelsFilesCountAndFolder) {
     CurrentDirGuard cwd;
     IconFolder icons;
-    const struct {
-        const char* pattern;
-        const char* label;
-        QStringList files;
-    } cases[] = {
-        {"*.ico", "ICO files in dir:  3", {"a.ico", "b.ico", "C.ICO"}},
-        {"*.ani", "ANI files in dir:  0", {}},
-        {"*.txt;*.ico", "TXT;*.ICO files in dir:  4", {"a.ico", "b.ico", "C.ICO", "note.txt"}},
-        {"*.*", "", {"a.ico", "b.ico", "C.ICO", "note.txt"}},
-        {"", "", {}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.pattern);
-        frmDirDialog dlg(c.pattern, icons.Path(), false);
-        EXPECT_EQ(dlg.lblIconsInDir->text().toStdString(), c.label);
-        EXPECT_EQ(Texts(dlg.FileListBox1), c.files);
-        EXPECT_EQ(dlg.cboFilePattern->currentText().toStdString(),
-                  *c.pattern ? c.pattern : "XYZ!@#$%^");
-        EXPECT_EQ(dlg.lblSelectedDir->text().toStdString(), icons.Path());
-        EXPECT_EQ(QDir::currentPath().toStdString(), icons.Path());
-    }
+    frmDirDialog dlg("*.ico", icons.Path(), false);
+    EXPECT_EQ(dlg.lblIconsInDir->text(), QStringLiteral("ICO files in dir:  3"));
+    EXPECT_EQ(Texts(dlg.FileListBox1), (QStringList{"a.ico", "b.ico", "C.ICO"}));
+    EXPECT_EQ(dlg.cboFilePattern->currentText(), QStringLiteral("*.ico"));
+    EXPECT_EQ(dlg.lblSelectedDir->text().toStdString(), icons.Path());
+    EXPECT_EQ(QDir::currentPath().toStdString(), icons.Path());
+
+    frmDirDialog none("", icons.Path(), false);
+    EXPECT_EQ(none.cboFilePattern->currentText(), QStringLiteral("XYZ!@#$%^"));
+    EXPECT_TRUE(none.lblIconsInDir->text().isEmpty());
+    EXPECT_EQ(none.FileListBox1->count(), 0);
 }
 
 TEST(DirDialog, FolderListEntersSubfoldersAndTakesThePatternAgain) {
@@ -184,6 +156,22 @@ TEST(DirDialog, FolderListEntersSubfoldersAndTakesThePatternAgain) {
     EXPECT_EQ(QDir::currentPath().toStdString(), icons.Sub());
     EXPECT_EQ(Texts(dlg.FileListBox1), QStringList{"d.ico"});
     EXPECT_EQ(dlg.lblIconsInDir->text(), QStringLiteral("ICO files in dir:  1"));
+}
+
+// A folder is entered by its row, so a name that isn't UTF-8 (shown with replacement
+// characters) still leads to the folder itself.
+TEST(DirDialog, FolderWhoseNameIsNotUtf8IsEnteredFromItsRow) {
+    CurrentDirGuard cwd;
+    IconFolder icons;
+    const std::string odd = icons.Path() + "/f\xff";
+    ASSERT_TRUE(std::filesystem::create_directory(odd));
+    frmDirDialog dlg("*.ico", icons.Path(), false);
+    QListWidget* dirs = dlg.DirListBox1;
+    const int row = dirs->count() - 2;  // "f\xff" sorts before "sub.ico"
+    ASSERT_TRUE(dirs->item(row)->text().trimmed().startsWith(QLatin1Char('f')));
+    emit dirs->itemActivated(dirs->item(row));
+    EXPECT_EQ(dlg.Folder(), odd);
+    EXPECT_EQ(dirs->currentRow(), dirs->count() - 1);
 }
 
 TEST(DirDialog, DriveThatCannotBeEnteredLeavesBothLists) {

@@ -23,13 +23,17 @@ namespace vexlo::gui {
 
 namespace {
 
-constexpr int kPathRole = Qt::UserRole;
-
-bool CanEnter(const QString& folder) {
-    if (folder.isEmpty()) return false;
-    const QFileInfo info(folder);
-    return info.isDir() && info.isReadable() && info.isExecutable();
-}
+// The one service the model asks for, its question, on the program's message box.
+class MessageBoxHost final : public host::Host {
+public:
+    host::MsgAnswer MsgBox(const std::string& text, host::MsgButtons buttons, host::MsgIcon icon,
+                           const std::string& title) override {
+        return platform::ShowMessageBox(text, buttons, icon, title);
+    }
+    void DoEvents() override {}
+    void SetHourglass(bool) override {}
+    void RefreshDisplay() override {}
+};
 
 QListWidget* MakeList(QWidget* parent) {
     auto* list = new QListWidget(parent);
@@ -38,11 +42,20 @@ QListWidget* MakeList(QWidget* parent) {
     return list;
 }
 
+// Whether root (a mount point such as "/" or "/media/usb") holds folder.
+bool RootHolds(std::string root, const std::string& folder) {
+    while (root.size() > 1 && root.back() == '/') root.pop_back();
+    if (root == "/") return true;
+    return folder == root || folder.starts_with(root + "/");
+}
+
 }  // namespace
 
 frmDirDialog::frmDirDialog(const std::string& pattern, const std::string& startFolder,
                            bool extendable, QWidget* parent)
-    : QDialog(parent), m_pattern(pattern) {
+    : QDialog(parent),
+      m_host(std::make_unique<MessageBoxHost>()),
+      m_model(*m_host, pattern, extendable) {
     setWindowTitle(QStringLiteral("Directory dialog"));
 
     // The core part, in the narrow width.
@@ -79,7 +92,7 @@ frmDirDialog::frmDirDialog(const std::string& pattern, const std::string& startF
 
     connect(DriveListBox1, &QComboBox::activated, this, [this] { DriveChanged(); });
     connect(DirListBox1, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
-        SetFolder(item->data(kPathRole).toString().toStdString());
+        if (m_model.EnterRow(static_cast<std::size_t>(DirListBox1->row(item)))) Redraw();
     });
     connect(cboFilePattern, &QComboBox::currentTextChanged, this,
             [this](const QString& text) { SetFilePattern(text); });
@@ -89,15 +102,13 @@ frmDirDialog::frmDirDialog(const std::string& pattern, const std::string& startF
     connect(cmdExtend, &QPushButton::clicked, this, [this] { Extend(); });
 
     // Load: narrow and centred, the pattern in the combo, then the first folder change.
-    Shrink();
+    ApplyLayout();
     cboFilePattern->clear();
-    cboFilePattern->addItem(QString::fromStdString(pattern.empty() ? kNoPattern : pattern));
+    cboFilePattern->addItem(QString::fromStdString(m_model.PatternShown()));
     cboFilePattern->setCurrentIndex(0);
-    cmdExtend->setVisible(extendable);
     FillDrives();
-    if (!SetFolder(startFolder) && !SetFolder(QDir::currentPath().toStdString()) &&
-        !SetFolder(QDir::homePath().toStdString()))
-        SetFolder(QDir::rootPath().toStdString());
+    m_model.Load(startFolder);
+    Redraw();
 }
 
 std::string frmDirDialog::Ask(const std::string& pattern, const std::string& startFolder,
@@ -109,71 +120,41 @@ std::string frmDirDialog::Ask(const std::string& pattern, const std::string& sta
 }
 
 bool frmDirDialog::SetFolder(const std::string& folder) {
-    const QString wanted = QString::fromStdString(folder);
-    if (!CanEnter(wanted)) return false;
-    const QString path = QDir::cleanPath(QFileInfo(wanted).absoluteFilePath());
-    if (!QDir::setCurrent(path)) return false;
-    m_folder = path.toStdString();
-    m_chosen = m_folder;
-    lblSelectedDir->setText(path);
-    FillFolders();
-    SelectDriveOf(path);
-    // The file list takes the dialog's pattern again, whatever the combo was changed to.
-    SetFilePattern(QString::fromStdString(m_pattern.empty() ? kNoPattern : m_pattern));
-    lblIconsInDir->setText(IconsInDirText());
+    if (!m_model.EnterFolder(folder)) return false;
+    Redraw();
     return true;
 }
 
 bool frmDirDialog::DriveChanged() {
     if (SetFolder(DriveListBox1->currentText().toStdString())) return true;
-    SelectDriveOf(QString::fromStdString(m_folder));
+    SelectDriveOf(m_model.Folder());
     return false;
 }
 
 void frmDirDialog::SetFilePattern(const QString& pattern) {
-    FileListBox1->clear();
-    if (m_folder.empty()) return;
-    // "*.ico;*.cur" is two patterns. Without QDir::CaseSensitive the match ignores case, as
-    // the file lists of the platform this program came from do.
-    const QStringList filters = pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    if (filters.isEmpty()) return;
-    const QDir dir(QString::fromStdString(m_folder));
-    FileListBox1->addItems(dir.entryList(filters, QDir::Files, QDir::Name | QDir::IgnoreCase));
+    m_model.SetFilePattern(pattern.toStdString());
+    FillFiles();
 }
 
 bool frmDirDialog::ClickOK() {
-    if (FileListBox1->count() == 0 && m_pattern.size() > 3) {
-        const std::string ext = m_pattern.substr(2);
-        const std::string question = "There is no " + ext + " files directly in selected folder." +
-                                     host::kCrLf + "Proceed still?";
-        if (platform::ShowMessageBox(question, host::MsgButtons::YesNo, host::MsgIcon::None,
-                                     host::kTitle) != host::MsgAnswer::Yes)
-            return false;
-    }
-    m_chosen = m_folder;
+    if (!m_model.ConfirmOK()) return false;
     accept();
     return true;
 }
 
 void frmDirDialog::ClickCancel() {
-    m_chosen.clear();
+    m_model.Cancel();
     reject();
 }
 
 void frmDirDialog::Shrink() {
-    m_wide = false;
-    m_filePart->hide();
-    setFixedSize(kNarrowWidth, kHeight);
-    cmdExtend->show();
-    CentreOnScreen();
+    m_model.Shrink();
+    ApplyLayout();
 }
 
 void frmDirDialog::Extend() {
-    m_wide = true;
-    setFixedSize(kWideWidth, kHeight);
-    m_filePart->show();
-    cmdExtend->hide();
-    CentreOnScreen();
+    m_model.Extend();
+    ApplyLayout();
 }
 
 void frmDirDialog::keyPressEvent(QKeyEvent* event) {
@@ -202,45 +183,52 @@ void frmDirDialog::FillDrives() {
     DriveListBox1->addItems(roots);
 }
 
-void frmDirDialog::SelectDriveOf(const QString& folder) {
-    QString root = QStorageInfo(folder).rootPath();
-    if (root.isEmpty()) root = QDir::rootPath();
-    int index = DriveListBox1->findText(root);
-    if (index < 0) {
-        DriveListBox1->addItem(root);
-        index = DriveListBox1->count() - 1;
+void frmDirDialog::SelectDriveOf(const std::string& folder) {
+    int best = -1;
+    qsizetype bestLength = -1;
+    for (int i = 0; i < DriveListBox1->count(); ++i) {
+        const QString root = DriveListBox1->itemText(i);
+        if (root.size() > bestLength && RootHolds(root.toStdString(), folder)) {
+            best = i;
+            bestLength = root.size();
+        }
     }
-    DriveListBox1->setCurrentIndex(index);
+    if (best >= 0) DriveListBox1->setCurrentIndex(best);
 }
 
-void frmDirDialog::FillFolders() {
-    const QString path = QString::fromStdString(m_folder);
+void frmDirDialog::Redraw() {
+    lblSelectedDir->setText(QString::fromStdString(m_model.Folder()));
+
     const QIcon open = style()->standardIcon(QStyle::SP_DirOpenIcon);
     const QIcon closed = style()->standardIcon(QStyle::SP_DirClosedIcon);
+    DirListBox1->setUpdatesEnabled(false);
     DirListBox1->clear();
+    for (const utilities::FolderRow& row : m_model.Folders())
+        DirListBox1->addItem(new QListWidgetItem(row.Open ? open : closed,
+                                                 QString::fromStdString(row.Text)));
+    if (!m_model.Folders().empty())
+        DirListBox1->setCurrentRow(static_cast<int>(m_model.OpenRow()));
+    DirListBox1->setUpdatesEnabled(true);
 
-    // The ancestors from the root down to the open folder, each indented under its parent.
-    QStringList chain{path};
-    QDir up(path);
-    while (!up.isRoot() && up.cdUp()) chain.prepend(up.absolutePath());
-    int depth = 0;
-    for (const QString& p : chain) {
-        const QString name = QDir(p).isRoot() ? p : QFileInfo(p).fileName();
-        auto* item = new QListWidgetItem(open, QString(depth * 2, QLatin1Char(' ')) + name);
-        item->setData(kPathRole, p);
-        DirListBox1->addItem(item);
-        ++depth;
-    }
-    DirListBox1->setCurrentRow(DirListBox1->count() - 1);
+    SelectDriveOf(m_model.Folder());
+    FillFiles();
+    lblIconsInDir->setText(QString::fromStdString(m_model.CountText()));
+}
 
-    const QString indent(depth * 2, QLatin1Char(' '));
-    const QDir dir(path);
-    for (const QFileInfo& sub :
-         dir.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-        auto* item = new QListWidgetItem(closed, indent + sub.fileName());
-        item->setData(kPathRole, sub.absoluteFilePath());
-        DirListBox1->addItem(item);
-    }
+void frmDirDialog::FillFiles() {
+    QStringList names;
+    names.reserve(static_cast<qsizetype>(m_model.Files().size()));
+    for (const std::string& name : m_model.Files()) names << QString::fromStdString(name);
+    FileListBox1->clear();
+    FileListBox1->addItems(names);
+}
+
+void frmDirDialog::ApplyLayout() {
+    const bool wide = m_model.IsWide();
+    setFixedSize(wide ? kWideWidth : kNarrowWidth, kHeight);
+    m_filePart->setVisible(wide);
+    cmdExtend->setVisible(m_model.ExtendShown());
+    CentreOnScreen();
 }
 
 void frmDirDialog::CentreOnScreen() {
@@ -248,12 +236,6 @@ void frmDirDialog::CentreOnScreen() {
     if (screen == nullptr) return;
     const QRect area = screen->availableGeometry();
     move(area.center() - QPoint(width() / 2, height() / 2));
-}
-
-QString frmDirDialog::IconsInDirText() const {
-    if (m_pattern.size() <= 3) return {};
-    const QString ext = QString::fromStdString(m_pattern.substr(2)).toUpper();
-    return ext + QStringLiteral(" files in dir:  ") + QString::number(FileListBox1->count());
 }
 
 }  // namespace vexlo::gui

@@ -1,11 +1,16 @@
 #pragma once
 // frmDirDialog: the folder dialog. A drive list (the mounted volumes by root path), the folder
 // list (the open folder's ancestors, itself and its subfolders), and in its wide layout the
-// files of the open folder that match a pattern, with their count. Every step is a method, so
-// that the dialog can be driven without exec().
+// files of the open folder that match a pattern, with their count. What the lists hold and
+// what each button decides is utilities::DirDialogModel; the dialog forwards its events there
+// and redraws from it. Every step is a method, so that the dialog can be driven without
+// exec().
 #include <QDialog>
 #include <QString>
+#include <memory>
 #include <string>
+
+#include "core/utilities/dir_dialog_model.h"
 
 class QComboBox;
 class QKeyEvent;
@@ -46,18 +51,19 @@ public:
     // The narrow layout (core controls) and the wide one (with the file part); each centres.
     void Shrink();
     void Extend();
-    bool IsWide() const { return m_wide; }
+    bool IsWide() const { return m_model.IsWide(); }
 
     // The open folder (the folder list's path) and the folder the dialog answers.
-    const std::string& Folder() const { return m_folder; }
-    const std::string& ChosenFolder() const { return m_chosen; }
+    const std::string& Folder() const { return m_model.Folder(); }
+    const std::string& ChosenFolder() const { return m_model.ChosenFolder(); }
+    const utilities::DirDialogModel& Model() const { return m_model; }
 
     // 4500 and 7550 twips at 15 twips a pixel.
     static constexpr int kNarrowWidth = 300;
     static constexpr int kWideWidth = 503;
     static constexpr int kHeight = 330;
     // The pattern that no file matches, shown when none is given.
-    static constexpr const char* kNoPattern = "XYZ!@#$%^";
+    static constexpr const char* kNoPattern = utilities::DirDialogModel::kNoPattern;
 
     QComboBox* DriveListBox1 = nullptr;
     QListWidget* DirListBox1 = nullptr;
@@ -76,17 +82,20 @@ protected:
 
 private:
     void FillDrives();
-    void SelectDriveOf(const QString& folder);
-    void FillFolders();
+    // Selects the drive whose root holds folder: the longest root that is a prefix of it.
+    void SelectDriveOf(const std::string& folder);
+    // Redraws the folder list, the labels and the file list from the model.
+    void Redraw();
+    void FillFiles();
+    // The layout the model is in, centred on the screen.
+    void ApplyLayout();
     void CentreOnScreen();
-    // "ICO files in dir:  3" for "*.ico"; "" for a pattern of 3 characters or fewer.
-    QString IconsInDirText() const;
 
-    std::string m_pattern;
-    std::string m_folder;
-    std::string m_chosen;
+    // Asks the model's question with the program's message box; declared before m_model,
+    // which keeps a reference to it.
+    std::unique_ptr<host::Host> m_host;
+    utilities::DirDialogModel m_model;
     QWidget* m_filePart = nullptr;
-    bool m_wide = false;
 };
 
 }  // namespace vexlo::gui
