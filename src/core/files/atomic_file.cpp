@@ -67,6 +67,21 @@ bool WriteAll(int fd, Bytes data) {
     return true;
 }
 
+// The platform's read-only attribute: no write permission bit at all (this holds for root
+// too), or none that this user has.
+bool IsReadOnly(const std::string& path, const struct stat& st) {
+    if ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return true;
+    return ::access(path.c_str(), W_OK) != 0;
+}
+
+// What the writer refuses to replace: a folder, or a file that is read-only. A path where
+// nothing stands yet is written.
+bool RefusesReplacement(const std::string& path) {
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) return false;
+    return S_ISDIR(st.st_mode) || IsReadOnly(path, st);
+}
+
 void SyncFolder(const std::string& folder) {
     const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd < 0) return;
@@ -82,34 +97,42 @@ FileWriteResult AtomicWriteFile(const std::string& path, Bytes data, const Atomi
         errno = EIO;
         return true;
     };
-    if (path.empty()) return {false, "no file name"};
+    if (path.empty()) return {false, "no file name", ENOENT};
     const std::string target = ResolveTarget(path);
-    if (IsProtectedFile(target)) return {false, target + ": the file is read-only or a folder"};
+    if (RefusesReplacement(target)) return {false, target + ": the file is read-only or a folder", EACCES};
 
     struct stat old {};
     const bool replacing = ::stat(target.c_str(), &old) == 0;
 
     std::string temp;
     const int fd = failAt(AtomicWriteStep::CreateTemp) ? -1 : CreateTemp(target, temp);
-    if (fd < 0) return {false, "cannot create a temporary file in " + FolderOf(target) + ": " + ErrnoText(errno)};
+    if (fd < 0) {
+        const int err = errno;
+        return {false, "cannot create a temporary file in " + FolderOf(target) + ": " + ErrnoText(err), err};
+    }
 
     std::string error;
+    int number = 0;
+    const auto failed = [&](const std::string& what) {
+        number = errno;
+        error = what + ": " + ErrnoText(number);
+    };
     if (replacing && ::fchmod(fd, old.st_mode & 0777) != 0) {
-        error = "cannot set the permissions of " + temp + ": " + ErrnoText(errno);
+        failed("cannot set the permissions of " + temp);
     } else if (failAt(AtomicWriteStep::Write) || !WriteAll(fd, data)) {
-        error = "cannot write " + temp + ": " + ErrnoText(errno);
+        failed("cannot write " + temp);
     } else if (failAt(AtomicWriteStep::Sync) || ::fsync(fd) != 0) {
-        error = "cannot flush " + temp + ": " + ErrnoText(errno);
+        failed("cannot flush " + temp);
     }
-    if (::close(fd) != 0 && error.empty()) error = "cannot close " + temp + ": " + ErrnoText(errno);
+    if (::close(fd) != 0 && error.empty()) failed("cannot close " + temp);
     if (error.empty() && (failAt(AtomicWriteStep::Rename) || ::rename(temp.c_str(), target.c_str()) != 0))
-        error = "cannot replace " + target + ": " + ErrnoText(errno);
+        failed("cannot replace " + target);
     if (!error.empty()) {
         ::unlink(temp.c_str());
-        return {false, error};
+        return {false, error, number};
     }
     SyncFolder(FolderOf(target));
-    return {true, {}};
+    return {true, {}, 0};
 }
 
 bool FileExists(const std::string& path) {
@@ -124,10 +147,12 @@ bool FileExists(const std::string& path) {
 
 bool IsProtectedFile(const std::string& path) {
     struct stat st {};
-    if (path.empty() || ::stat(path.c_str(), &st) != 0) return false;
-    if (S_ISDIR(st.st_mode)) return true;
-    if ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return true;
-    return ::access(path.c_str(), W_OK) != 0;
+    // A path where nothing can be found has no attributes at all: that counts as protected.
+    if (path.empty() || ::stat(path.c_str(), &st) != 0) return true;
+    if (S_ISDIR(st.st_mode)) return true;           // directory
+    if (!S_ISREG(st.st_mode)) return true;          // system: a device, a pipe, a socket
+    if (NameOf(path).starts_with('.')) return true;  // hidden
+    return IsReadOnly(path, st);
 }
 
 std::string SplitFileSpec(const std::string& fileSpec, int part) {
@@ -149,10 +174,16 @@ std::string SplitFileSpec(const std::string& fileSpec, int part) {
     return dot == std::string::npos ? std::string() : name.substr(dot + 1);
 }
 
-bool CopyFileAtomically(const std::string& source, const std::string& target) {
+FileWriteResult CopyFileAtomically(const std::string& source, const std::string& target) {
     std::vector<std::uint8_t> data;
-    if (ReadWholeFile(source, data) != FileReadStatus::Ok) return false;
-    return AtomicWriteFile(target, Bytes(data.data(), data.size())).Ok;
+    switch (ReadWholeFile(source, data)) {
+        case FileReadStatus::Ok: break;
+        case FileReadStatus::NotFound: return {false, "cannot read " + source, ENOENT};
+        case FileReadStatus::NotRegular: return {false, "not a file: " + source, EINVAL};
+        case FileReadStatus::TooLarge: return {false, "too large: " + source, EFBIG};
+        case FileReadStatus::ReadError: return {false, "cannot read " + source, EIO};
+    }
+    return AtomicWriteFile(target, Bytes(data.data(), data.size()));
 }
 
 }  // namespace vexlo::files

@@ -19,6 +19,7 @@ struct AtomicWriteOptions {
 struct FileWriteResult {
     bool Ok = false;
     std::string Error;  // empty when Ok
+    int Number = 0;     // the errno of the step that failed; 0 when Ok
     explicit operator bool() const { return Ok; }
 };
 
@@ -26,19 +27,23 @@ struct FileWriteResult {
 // the old file's permission bits when one stands there), written whole, flushed and fsynced,
 // then renamed over path, and the folder fsynced. A symbolic link at path is followed, so the
 // file it names is replaced. On any failure the temporary file is removed, a file that stood
-// at path is untouched, and Error says what failed. A path that IsProtectedFile is refused.
+// at path is untouched, and Error says what failed. A folder or a read-only file at path is
+// refused; a hidden file is written like any other.
 FileWriteResult AtomicWriteFile(const std::string& path, Bytes data, const AtomicWriteOptions& options = {});
 
 // True if path is a file that can be opened for reading (a folder is not).
 bool FileExists(const std::string& path);
 
-// Copies the file at source to target through AtomicWriteFile; false when source can't be
-// read or target can't be written.
-bool CopyFileAtomically(const std::string& source, const std::string& target);
+// Copies the file at source to target through AtomicWriteFile; fails when source can't be
+// read (Number ENOENT, EINVAL for a folder or other non-file, EFBIG over kMaxFileBytes, EIO)
+// or target can't be written.
+FileWriteResult CopyFileAtomically(const std::string& source, const std::string& target);
 
-// True if path exists and is a folder, or a file that the user may not write or that has no
-// write permission bit at all (the platform's read-only attribute; this holds for root too).
-// A path where nothing stands is not protected.
+// True if the file's attributes have read-only, hidden, system or directory set, or it has
+// none: a path where nothing can be found (or an empty one); a folder; anything but a regular
+// file (a device, a pipe, a socket: system); a name that starts with "." (hidden); a file
+// that the user may not write or that has no write permission bit at all (read-only; this
+// holds for root too). Links are followed.
 bool IsProtectedFile(const std::string& path);
 
 // A part of a path: 0 the drive (always empty here: this platform has none), 1 the folder

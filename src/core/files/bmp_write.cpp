@@ -1,6 +1,7 @@
 #include "core/files/bmp_write.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "core/files/atomic_file.h"
 #include "core/files/byte_reader.h"
@@ -48,15 +49,10 @@ std::vector<std::uint8_t> BuildBmpBytes(const surface::Surface& picture) {
     return out;
 }
 
-bool WriteBmpFile(const surface::Surface& picture, const std::string& path, std::string* error) {
+FileWriteResult WriteBmpFile(const surface::Surface& picture, const std::string& path) {
     const std::vector<std::uint8_t> bytes = BuildBmpBytes(picture);
-    if (bytes.empty()) {
-        if (error) *error = "the picture has no pixels to write";
-        return false;
-    }
-    const FileWriteResult result = AtomicWriteFile(path, Bytes(bytes));
-    if (error) *error = result.Error;
-    return result.Ok;
+    if (bytes.empty()) return {false, "the picture has no pixels to write", EINVAL};
+    return AtomicWriteFile(path, Bytes(bytes));
 }
 
 bool IsIconSize(const surface::Surface& picture) {

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/files/atomic_file.h"
 #include "core/icon/icon_colors.h"
 #include "core/surface/surface.h"
 
@@ -27,8 +28,9 @@ constexpr std::int64_t BmpRowBytes(std::int64_t w) { return (3 * w + 3) / 4 * 4;
 // for the 32-bit size fields.
 std::vector<std::uint8_t> BuildBmpBytes(const surface::Surface& picture);
 
-// Writes those bytes with AtomicWriteFile. False, with the reason in *error, on failure.
-bool WriteBmpFile(const surface::Surface& picture, const std::string& path, std::string* error = nullptr);
+// Writes those bytes with AtomicWriteFile; on failure the reason and its errno are in the
+// result (EINVAL for a picture of no pixels).
+FileWriteResult WriteBmpFile(const surface::Surface& picture, const std::string& path);
 
 // ---- Import ----------------------------------------------------------------------------
 

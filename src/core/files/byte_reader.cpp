@@ -98,13 +98,9 @@ private:
 
 }  // namespace
 
-FileReadStatus ReadWholeFile(const std::string& path, std::vector<std::uint8_t>& out,
-                             std::size_t maxBytes) {
-    Fd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (fd.get() < 0) return errno == ENOENT || errno == ENOTDIR ? FileReadStatus::NotFound
-                                                                  : FileReadStatus::ReadError;
+FileReadStatus ReadWholeDescriptor(int fd, std::vector<std::uint8_t>& out, std::size_t maxBytes) {
     struct stat st {};
-    if (::fstat(fd.get(), &st) != 0) return FileReadStatus::ReadError;
+    if (::fstat(fd, &st) != 0) return FileReadStatus::ReadError;
     if (!S_ISREG(st.st_mode)) return FileReadStatus::NotRegular;
     if (st.st_size < 0 || static_cast<std::uint64_t>(st.st_size) > maxBytes)
         return FileReadStatus::TooLarge;
@@ -114,7 +110,7 @@ FileReadStatus ReadWholeFile(const std::string& path, std::vector<std::uint8_t>&
     std::vector<std::uint8_t> data(static_cast<std::size_t>(st.st_size) + 1);
     std::size_t got = 0;
     while (got < data.size()) {
-        const ssize_t n = ::read(fd.get(), data.data() + got, data.size() - got);
+        const ssize_t n = ::read(fd, data.data() + got, data.size() - got);
         if (n < 0) {
             if (errno == EINTR) continue;
             return FileReadStatus::ReadError;
@@ -126,6 +122,14 @@ FileReadStatus ReadWholeFile(const std::string& path, std::vector<std::uint8_t>&
     data.resize(got);
     out = std::move(data);
     return FileReadStatus::Ok;
+}
+
+FileReadStatus ReadWholeFile(const std::string& path, std::vector<std::uint8_t>& out,
+                             std::size_t maxBytes) {
+    Fd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (fd.get() < 0) return errno == ENOENT || errno == ENOTDIR ? FileReadStatus::NotFound
+                                                                  : FileReadStatus::ReadError;
+    return ReadWholeDescriptor(fd.get(), out, maxBytes);
 }
 
 }  // namespace vexlo::files

@@ -64,5 +64,7 @@ enum class FileReadStatus { Ok, NotFound, NotRegular, TooLarge, ReadError };
 // more than maxBytes bytes is refused with TooLarge without being read.
 FileReadStatus ReadWholeFile(const std::string& path, std::vector<std::uint8_t>& out,
                              std::size_t maxBytes = kMaxFileBytes);
+// The same on a file already open for reading (the descriptor stays open).
+FileReadStatus ReadWholeDescriptor(int fd, std::vector<std::uint8_t>& out, std::size_t maxBytes = kMaxFileBytes);
 
 }  // namespace vexlo::files

@@ -44,12 +44,11 @@ std::int64_t HalfHeight(std::int32_t biHeight) {
 
 ProbeAnswer ProbeIconFile(Bytes data, bool stopAtFirst) {
     const ProbeAnswer none;
-    IconFileHeader header;
-    std::vector<IconDirEntry> entries;
-    if (!ReadIconDirectory(data, header, entries)) return none;
-    if (!IsIconFileHeader(header) || entries.empty()) return none;
-
-    const IconDirEntry& first = entries[0];
+    // The header and the first entry; a file too short for them is no icon file.
+    ByteReader r(data);
+    const IconFileHeader header = ReadIconFileHeader(r);
+    const IconDirEntry first = ReadIconDirEntry(r);
+    if (!r.Ok() || !IsIconFileHeader(header)) return none;
     if (first.Reserved != 0 || first.Width == 0 || first.Height == 0 || first.BytesInRes == 0 ||
         first.ImageOffset == 0)
         return none;
@@ -62,17 +61,20 @@ ProbeAnswer ProbeIconFile(Bytes data, bool stopAtFirst) {
         return {1, 1, 0, bih.Width, ColorsOfBitCount(bih.BitCount), bih.BitCount};
     }
 
-    // Several images: entries cut off by the end of the file, or whose header lies outside
-    // it, are not usable.
+    // Several images: each entry and then its image header are read in turn. Any read that
+    // the file cuts short, an entry past its end or an image header outside it, fails the
+    // whole probe; entries after the loop has ended are not read.
     int usable = 0;
     int chosen = -1;
     BitmapInfoHeader chosenHeader;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
+    for (int index = 0; index < header.Count; ++index) {
+        ByteReader er(data);
+        er.Seek(kIconFileHeaderBytes + std::uint64_t{kIconDirEntryBytes} * static_cast<unsigned>(index));
+        const IconDirEntry entry = ReadIconDirEntry(er);
         BitmapInfoHeader bih;
-        if (!ReadImageHeader(data, entries[i].ImageOffset, bih)) continue;
+        if (!er.Ok() || !ReadImageHeader(data, entry.ImageOffset, bih)) return none;
         if (!IsIconSide(bih.Width) || bih.Width != HalfHeight(bih.Height)) continue;
         ++usable;
-        const int index = static_cast<int>(i);
         if (chosen < 0) {
             chosen = index;
             chosenHeader = bih;

@@ -20,8 +20,9 @@ struct ProbeAnswer {
     friend bool operator==(const ProbeAnswer&, const ProbeAnswer&) = default;
 };
 
-// Probes the file at path. Any failure, a missing or unreadable file, or one over
-// kMaxFileBytes, answers "0/0/0/0/0/0".
+// Probes the file at path. Any failure answers "0/0/0/0/0/0": a missing or unreadable file,
+// one over kMaxFileBytes, and any read that the file cuts short, also of a later entry or of
+// its image header in a file of several images (unless the choice has ended the loop first).
 ProbeAnswer ProbeIconFile(const std::string& path, bool stopAtFirst = false);
 // The same on a file held in memory.
 ProbeAnswer ProbeIconFile(Bytes data, bool stopAtFirst = false);

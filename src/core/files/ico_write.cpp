@@ -49,6 +49,16 @@ int ColorCountToWrite(const surface::Surface& image, const IconWriteOptions& opt
     return n;
 }
 
+WrittenDepth DepthToWrite(const surface::Surface& image, const IconWriteOptions& options) {
+    const int n = ColorCountToWrite(image, options);
+    switch (n) {
+        case 2: return {2, 1};
+        case 16: return {16, 4};
+        case 256: return {256, 8};
+        default: return {kTrueColor, options.Alpha ? 32 : 24};
+    }
+}
+
 std::vector<std::uint8_t> BuildIconFileBytes(const surface::Surface& image, const surface::Surface& mask,
                                              const IconWriteOptions& options) {
     const int w = image.Width();

@@ -82,6 +82,16 @@ struct IconWriteOptions {
 // The color count the file is written with: CountColors, then KeepTrueColor or Force256.
 int ColorCountToWrite(const surface::Surface& image, const IconWriteOptions& options);
 
+// The depth of the image's entry as WriteIconFile writes it: Colors as ColorCountOfEntry reads
+// it back (2, 16, 256, or -1) and Bits its wBitCount (1, 4, 8, 24 or 32). The pixels decide
+// it, not the slot's record, so this is the depth that the duplicate test of a multi-icon
+// file must compare.
+struct WrittenDepth {
+    int Colors = 0;
+    int Bits = 0;
+};
+WrittenDepth DepthToWrite(const surface::Surface& image, const IconWriteOptions& options);
+
 // The bytes of the file: header, entry, BITMAPINFOHEADER, color table, color rows, mask rows.
 // Empty if the image isn't square of 16, 32 or 48, the mask isn't of its size, or alpha values
 // are asked for and missing.

@@ -1,13 +1,14 @@
 #include "core/files/icon_set.h"
 
-#include <algorithm>
-#include <cstdio>
+#include <unistd.h>
+
 #include <initializer_list>
 #include <utility>
 
 #include "core/files/atomic_file.h"
 #include "core/files/ico_messages.h"
 #include "core/files/ico_probe.h"
+#include "core/files/private_temp.h"
 
 namespace vexlo::files {
 
@@ -82,19 +83,16 @@ int ReadIconSet(Bytes data, IconSet& set, IconSetError* error) {
     for (int i = 0; i < header.Count; ++i) entries.push_back(ReadIconDirEntry(r));
     if (!r.Ok()) return Fail(set, error, IconSetError::Truncated);
 
-    // Each image within the file, after the directory, and apart from every other image.
-    std::vector<std::pair<std::uint64_t, std::uint64_t>> ranges;
-    ranges.reserve(entries.size());
+    // Each image is read where its entry puts it, whatever else lies there: images may share
+    // bytes with one another or with the directory, and each gets a copy of its own. Every
+    // image must lie within the file, and the copies together must make a file that is read
+    // again: so many images over the same bytes can't make the copies outgrow the cap.
+    std::uint64_t total = dirEnd;
     for (const IconDirEntry& e : entries) {
-        const std::uint64_t begin = e.ImageOffset;
-        const std::uint64_t end = begin + e.BytesInRes;
-        if (end > data.size()) return Fail(set, error, IconSetError::Truncated);
-        if (begin < dirEnd) return Fail(set, error, IconSetError::BadLayout);
-        if (end > begin) ranges.emplace_back(begin, end);
+        if (std::uint64_t{e.ImageOffset} + e.BytesInRes > data.size()) return Fail(set, error, IconSetError::Truncated);
+        total += e.BytesInRes;
     }
-    std::sort(ranges.begin(), ranges.end());
-    for (std::size_t i = 1; i < ranges.size(); ++i)
-        if (ranges[i].first < ranges[i - 1].second) return Fail(set, error, IconSetError::BadLayout);
+    if (total > kMaxFileBytes) return Fail(set, error, IconSetError::TooLarge);
 
     IconSet read;
     read.Images.reserve(entries.size());
@@ -168,19 +166,49 @@ std::string TempIconPath(const std::string& tempDir) {
 
 SetResult PrepareNewImage(const surface::Surface& image, const surface::Surface& mask,
                           const IconWriteOptions& options, const std::string& tempDir, IconImage& out) {
+    if (tempDir.empty()) return Refused(kFailedPreparation);
     const std::string temp = TempIconPath(tempDir);
-    if (!WriteIconFile(image, mask, temp, options)) return Refused(kFailedPreparation);
+    const std::vector<std::uint8_t> bytes = BuildIconFileBytes(image, mask, options);
+    if (bytes.empty() || !WriteNewPrivateFile(temp, Bytes(bytes))) return Refused(kFailedPreparation);
+    std::vector<std::uint8_t> written;
     IconSet one;
-    if (ReadIconSet(temp, one) < 1) return Refused(kFailedLoadPreparation);
+    if (ReadPrivateFile(temp, written) != FileReadStatus::Ok || ReadIconSet(Bytes(written), one) < 1)
+        return Refused(kFailedLoadPreparation);
     out = std::move(one.Images[0]);
-    std::remove(temp.c_str());
+    ::unlink(temp.c_str());
     return Done();
 }
 
-SetResult CheckReplaceTarget(const std::string& path, int index, int w, int h, int c, int bits) {
+namespace {
+
+// The duplicate test of a new image against a set, for both the depth that the slot's record
+// names and the depth at which the pixels are written (ColorCountOfEntry and wBitCount of the
+// written entry): the two differ when the colors of the icon have changed since it came in,
+// and a set must never end with two images of one size and depth.
+std::optional<int> FindDuplicateOfEither(const IconSet& set, int w, int h, int c, int bits,
+                                         const WrittenDepth& written, int skipIndex, WrittenDepth& found) {
+    if (auto j = FindDuplicateImage(set, w, h, c, bits, skipIndex)) {
+        found = {c, bits};
+        return j;
+    }
+    if (auto j = FindDuplicateImage(set, w, h, written.Colors, written.Bits, skipIndex)) {
+        found = written;
+        return j;
+    }
+    return std::nullopt;
+}
+
+WrittenDepth DepthOfEntry(const IconDirEntry& e) { return {ColorCountOfEntry(e), e.BitCount}; }
+
+}  // namespace
+
+SetResult CheckReplaceTarget(const std::string& path, int index, int w, int h, int c, int bits,
+                             const WrittenDepth& written) {
     IconSet set;
     if (ReadIconSet(path, set) < 1) return Refused(kFailedReading);
-    if (FindDuplicateImage(set, w, h, c, bits, index)) return Refused(DuplicateReplaceMessage(w, h, c, bits));
+    WrittenDepth found;
+    if (FindDuplicateOfEither(set, w, h, c, bits, written, index, found))
+        return Refused(DuplicateReplaceMessage(w, h, found.Colors, found.Bits));
     if (index < 0 || set.Count() - 1 < index) return Refused(ChangedMeanwhileMessage());
     return Done();
 }
@@ -193,18 +221,25 @@ SetResult ReplaceIconInFile(const surface::Surface& image, const surface::Surfac
     IconSet set;
     if (ReadIconSet(sourcePath, set) < 1) return Refused(kFailedReading);
     if (index < 0 || index >= set.Count()) return Refused(ChangedMeanwhileMessage());
+    // The entry goes in as the image was written; the file read afresh may have changed since
+    // the check before the dialog.
+    const WrittenDepth depth = DepthOfEntry(newImage.Entry);
+    if (FindDuplicateImage(set, image.Width(), image.Height(), depth.Colors, depth.Bits, index))
+        return Refused(DuplicateReplaceMessage(image.Width(), image.Height(), depth.Colors, depth.Bits));
     set.NewImage = std::move(newImage);
     if (!WriteIconSetReplace(targetPath, set, index))
         return Refused(IsProtectedFile(targetPath) ? kReplaceReadOnly : kFailedWriting);
     return Done();
 }
 
-SetResult CheckAddTarget(const std::string& path, int w, int h, int c, int bits) {
+SetResult CheckAddTarget(const std::string& path, int w, int h, int c, int bits, const WrittenDepth& written) {
     IconSet set;
     IconSetError why = IconSetError::None;
     if (ReadIconSet(path, set, &why) < 1)
         return Refused(why == IconSetError::NoImages ? NoIconFoundMessage(path) : FailedToOpenMessage(path));
-    if (FindDuplicateImage(set, w, h, c, bits)) return Refused(DuplicateAddMessage(w, h, c, bits));
+    WrittenDepth found;
+    if (FindDuplicateOfEither(set, w, h, c, bits, written, -1, found))
+        return Refused(DuplicateAddMessage(w, h, found.Colors, found.Bits));
     return Done();
 }
 
@@ -220,7 +255,9 @@ SetResult AppendIconToFile(const surface::Surface& image, const surface::Surface
 
     const int w = image.Width();
     const int h = image.Height();
-    if (FindDuplicateImage(set, w, h, c, bits)) return Refused(DuplicateAddMessage(w, h, c, bits));
+    WrittenDepth found;
+    if (FindDuplicateOfEither(set, w, h, c, bits, DepthOfEntry(newImage.Entry), -1, found))
+        return Refused(DuplicateAddMessage(w, h, found.Colors, found.Bits));
 
     // The end of the image that lies last, moved by the entry that the directory gains.
     std::uint64_t end = 0;

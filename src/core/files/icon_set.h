@@ -41,12 +41,15 @@ enum class IconSetError {
     NotIconFile,   // idReserved not 0 or idType not 1
     NoImages,      // an icon file header with idCount 0
     Truncated,     // a directory entry or an image lies (partly) past the end of the file
-    BadLayout,     // an image overlaps the header, the directory or another image
+    TooLarge,      // the images together (they may overlap) would make a file over kMaxFileBytes
 };
 
 // Reads the set of an icon file: answers the number of images, or 0 with the set emptied (and
-// the reason in *error). Every entry and every image is checked against the file before
-// anything is allocated for it; a hostile file answers 0. An image of 0 bytes is taken.
+// the reason in *error). The header, every entry, then for each entry dwBytesInRes bytes from
+// dwImageOffset; a read that the file cuts short fails. Images that overlap one another or
+// the directory are read as they stand, each into its own bytes. Every entry and every image
+// is checked against the file before anything is allocated for it. An image of 0 bytes is
+// taken.
 int ReadIconSet(Bytes data, IconSet& set, IconSetError* error = nullptr);
 int ReadIconSet(const std::string& path, IconSet& set, IconSetError* error = nullptr);
 
@@ -94,33 +97,41 @@ struct SetResult {
     explicit operator bool() const { return Ok; }
 };
 
-// Makes the new image of the icon: WriteIconFile(image, mask, TempIconPath(tempDir), options),
-// read back with ReadIconSet into out, then the temporary file is deleted (it stays only if
-// reading it back failed). Failures: "Failed to save current icon - preparation", "Failed to
-// save current icon - load preparation".
+// Makes the new image of the icon: the bytes of WriteIconFile(image, mask, options) written to
+// TempIconPath(tempDir) as a new file (WriteNewPrivateFile: whatever stood there is removed,
+// no link is followed), read back without following links into out, then the temporary file
+// is deleted (it stays only if reading it back failed). tempDir is a private folder of this
+// user (PrivateTempDir); an empty one fails. Failures: "Failed to save current icon -
+// preparation", "Failed to save current icon - load preparation".
 SetResult PrepareNewImage(const surface::Surface& image, const surface::Surface& mask,
                           const IconWriteOptions& options, const std::string& tempDir, IconImage& out);
 
 // Save back, the checks before the save dialog: reads path, refuses a duplicate of any image
-// other than index (DuplicateReplaceMessage), and an index the file no longer holds.
-SetResult CheckReplaceTarget(const std::string& path, int index, int w, int h, int c, int bits);
+// other than index (DuplicateReplaceMessage), and an index the file no longer holds. The
+// duplicate test runs with the slot's depth (c and bits: its ColorCount and BitsPerPixel) and
+// with written, the depth at which the pixels will be written (DepthToWrite); the message
+// names the depth that found the duplicate.
+SetResult CheckReplaceTarget(const std::string& path, int index, int w, int h, int c, int bits,
+                             const WrittenDepth& written);
 
-// Save back, after the dialog: PrepareNewImage, ReadIconSet(sourcePath), then
-// WriteIconSetReplace(targetPath, index). A target that IsProtectedFile gets "File is
-// read-only.", another write failure "Failed to save current icon - writing". sourcePath is
-// only read: saving to another name leaves it as it was.
+// Save back, after the dialog: PrepareNewImage, ReadIconSet(sourcePath), the duplicate test
+// once more with the depth of the image as written, then WriteIconSetReplace(targetPath,
+// index). A target that IsProtectedFile gets "File is read-only.", another write failure
+// "Failed to save current icon - writing". sourcePath is only read: saving to another name
+// leaves it as it was.
 SetResult ReplaceIconInFile(const surface::Surface& image, const surface::Surface& mask,
                             const IconWriteOptions& options, const std::string& sourcePath, int index,
                             const std::string& targetPath, const std::string& tempDir);
 
 // Adding, the checks before the dialog: reads path ("Failed to open " and the path, or for an
 // icon file of no image "No icon found in " and the path) and refuses a duplicate of any image
-// (DuplicateAddMessage).
-SetResult CheckAddTarget(const std::string& path, int w, int h, int c, int bits);
+// (DuplicateAddMessage), by both depths as in CheckReplaceTarget.
+SetResult CheckAddTarget(const std::string& path, int w, int h, int c, int bits, const WrittenDepth& written);
 
 // Adds the icon as the last image of the file at path: c is CountColors of the image (or -1
 // for a true-color slot), bits the slot's BitsPerPixel, options those of WriteIconFile.
-// Refuses a duplicate (DuplicateAddMessage), a new image whose length isn't ImageBytes of
+// Refuses a duplicate by (c, bits) or by the depth of the image as written
+// (DuplicateAddMessage), a new image whose length isn't ImageBytes of
 // (c, bits) or whose bit count isn't the entry's ("Bytes of the added icon image do not
 // correspond": the slot's depth and the depth written disagree), and a file whose images don't
 // lie end to end in directory order ("Offset value of the added icon image does not

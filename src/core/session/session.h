@@ -264,6 +264,9 @@ private:
     // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
     std::string AddToFileDialog(const std::string& path, int c, int bits);
     void ShowSetMessage(const std::string& text, MsgIcon icon);
+    // After a load that failed past ClearSlot: status bar, undo history and toolbar as for an
+    // empty Editing Area.
+    void ShowEmptyAfterFailedLoad();
     // The open dialog with a filter and default extension; the path chosen, or empty.
     std::string AskOpen(const char* filter, const char* defaultExt);
     // The pointer's event for the tools, in picDisp pixels and cells.

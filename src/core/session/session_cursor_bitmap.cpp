@@ -1,4 +1,6 @@
 // Cursor files in and out, pictures taken in as icons, and the icon saved as a bitmap.
+#include <cstring>
+
 #include "core/files/atomic_file.h"
 #include "core/files/bmp_write.h"
 #include "core/files/cursor_file.h"
@@ -138,11 +140,10 @@ void Session::OpenBitmapFile() {
 }
 
 bool Session::SaveBitmapTo(const std::string& path) {
-    std::string error;
-    if (!files::WriteBmpFile(m_icon.Composed(), path, &error)) {
-        const bool protectedFile = files::IsProtectedFile(path);
-        m_host.MsgBox(protectedFile ? files::ReadOnlyFileMessage() : path + kCrLf + "Failed to save this bitmap",
-                      MsgButtons::Ok, protectedFile ? MsgIcon::Exclamation : MsgIcon::None, kTitle);
+    // A bitmap that can't be written is a fault of the save: the common error box, and the
+    // operation stays where it came.
+    if (const files::FileWriteResult written = files::WriteBmpFile(m_icon.Composed(), path); !written) {
+        ReportError("mnuFileSaveAsBitmap", written.Number, std::strerror(written.Number));
         return false;
     }
     StoreToPanel();

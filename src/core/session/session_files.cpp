@@ -62,6 +62,7 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     if (!read) {
         m_icon.Image().Clear();
         m_icon.Mask().Clear();
+        ShowEmptyAfterFailedLoad();
         m_host.MsgBox(files::FailedToLoadMessage(path), MsgButtons::Ok, MsgIcon::None, kTitle);
         return false;
     }
@@ -70,6 +71,8 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
 
     int bits = probe.BitCount;
     if (probe.Colors == -1 && bits != 24 && bits != 32) {
+        // The pictures stay on the panel; the record stays free, and so does the Editing Area.
+        ShowEmptyAfterFailedLoad();
         m_host.MsgBox(files::TrueColorDepthMessage(path), MsgButtons::Ok, MsgIcon::Information, kTitle);
         return false;
     }
@@ -91,6 +94,14 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
     ShowIcon();
     // The file history takes the path once it exists.
     return true;
+}
+
+void Session::ShowEmptyAfterFailedLoad() {
+    // ClearSlot has freed the record: the status bar, the undo history and the toolbar must
+    // not go on showing the icon that was there before.
+    ClearStatusPanel();
+    ClearUndoHistory();
+    RefreshToolbar();
 }
 
 void Session::OpenIconFile() {

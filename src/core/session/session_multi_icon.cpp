@@ -1,8 +1,11 @@
 // Images inside multi-icon files: choosing one to open, saving it back, adding an icon.
+#include <cstring>
+
 #include "core/files/atomic_file.h"
 #include "core/files/ico_messages.h"
 #include "core/files/ico_write.h"
 #include "core/files/icon_set.h"
+#include "core/files/private_temp.h"
 #include "core/session/session.h"
 
 namespace vexlo::session {
@@ -52,7 +55,9 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     int bits = f.size() > 3 ? NumberOf(f[3]) : 0;
     m_icon.ImageTemp() = std::move(answer.Image);
     m_icon.MaskTemp() = std::move(answer.Mask);
-    if (!answer.Alpha.IsSingle()) m_panel.IncomingAlpha() = std::move(answer.Alpha);
+    // The dialog begins with no alpha values and hands over those of the image that it read
+    // last, or none: nothing of an earlier read stays.
+    m_panel.IncomingAlpha() = std::move(answer.Alpha);
 
     const int sizeCode = SizeCodeOfSide(size);
     IconSlot& s = Current();
@@ -89,8 +94,9 @@ void Session::mnuFileSaveMultiIconReplace() {
     if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
     const IconSlot& s = Current();
     const std::string path = s.FileSpec;
-    const files::SetResult check = files::CheckReplaceTarget(path, s.MultiIconIndex, m_icon.Composed().Width(),
-                                                             m_icon.Composed().Height(), s.ColorCount, s.BitsPerPixel);
+    const files::SetResult check =
+        files::CheckReplaceTarget(path, s.MultiIconIndex, m_icon.Composed().Width(), m_icon.Composed().Height(),
+                                  s.ColorCount, s.BitsPerPixel, files::DepthToWrite(m_icon.Image(), WriteOptions()));
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
@@ -104,7 +110,8 @@ void Session::mnuFileSaveMultiIconReplace() {
     if (target.empty()) return;
     m_currentPath = target;
     const files::SetResult done = files::ReplaceIconInFile(m_icon.Image(), m_icon.Mask(), WriteOptions(), path,
-                                                           s.MultiIconIndex, target, m_dirs.TempDir);
+                                                           s.MultiIconIndex, target,
+                                                           files::PrivateTempDir(m_dirs.TempDir));
     if (!done) {
         ShowSetMessage(done.Message, MsgIcon::None);
         return;
@@ -127,7 +134,8 @@ void Session::mnuFileSaveMultiIconAddTo() {
     }
     const int c = Current().ColorCount == -1 ? -1 : files::CountColors(m_icon.Image());
     const int bits = Current().BitsPerPixel;
-    const files::SetResult check = files::CheckAddTarget(path, m_icon.Composed().Width(), m_icon.Composed().Height(), c, bits);
+    const files::SetResult check = files::CheckAddTarget(path, m_icon.Composed().Width(), m_icon.Composed().Height(),
+                                                         c, bits, files::DepthToWrite(m_icon.Image(), WriteOptions()));
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
@@ -155,16 +163,21 @@ std::string Session::AddToFileDialog(const std::string& path, int c, int bits) {
             if (target != Current().FileSpec) break;
             ShowSetMessage(files::kCannotAddToItself, MsgIcon::None);
         }
-        if (target != path && !files::CopyFileAtomically(path, target)) {
-            ShowSetMessage(files::FailedToOpenMessage(target), MsgIcon::None);
-            return {};
+        if (target != path) {
+            // A copy that fails is a fault of this routine: the common error box, and nothing
+            // is added.
+            if (const files::FileWriteResult copied = files::CopyFileAtomically(path, target); !copied) {
+                ReportError("AddToFileDialog", copied.Number, std::strerror(copied.Number));
+                return {};
+            }
+            LetPendingEventsRun();
         }
-        LetPendingEventsRun();
     } else if (answer.Choice != "1") {
         return {};
     }
     const files::SetResult done =
-        files::AppendIconToFile(m_icon.Image(), m_icon.Mask(), target, c, bits, WriteOptions(), m_dirs.TempDir);
+        files::AppendIconToFile(m_icon.Image(), m_icon.Mask(), target, c, bits, WriteOptions(),
+                                files::PrivateTempDir(m_dirs.TempDir));
     if (!done) {
         ShowSetMessage(done.Message, MsgIcon::None);
         return {};

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 
@@ -92,23 +93,54 @@ TEST_F(FilesAtomic, RefusesProtectedTargetsAndMissingFolders) {
     EXPECT_NE(missing.Error.find("temporary"), std::string::npos) << missing.Error;
 }
 
+// Protected: read-only, hidden (a name with a leading dot), system (no regular file),
+// directory, or no attributes at all (nothing there).
 TEST_F(FilesAtomic, FileExistsAndIsProtectedFile) {
     WriteBytes(Path("plain"), {1});
     WriteBytes(Path("ro"), {1});
     ASSERT_EQ(::chmod(Path("ro").c_str(), 0444), 0);
+    WriteBytes(Path(".hidden.ico"), {1});
     fs::create_directory(Path("dir"));
+    ASSERT_EQ(::mkfifo(Path("fifo").c_str(), 0600), 0);
+    fs::create_symlink(Path("plain"), Path("link"));
+    fs::create_symlink(Path("missing"), Path("dangling"));
     struct Case {
         std::string path;
         bool exists, isProtected;
     };
     const Case cases[] = {
-        {Path("plain"), true, false},  {Path("ro"), true, true}, {Path("dir"), false, true},
-        {Path("missing"), false, false}, {"", false, false},
+        {Path("plain"), true, false},       {Path("link"), true, false},   {Path("ro"), true, true},
+        {Path(".hidden.ico"), true, true},  {Path("dir"), false, true},    {Path("fifo"), true, true},
+        {Path("missing"), false, true},     {Path("dangling"), false, true}, {"", false, true},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(FileExists(c.path), c.exists) << c.path;
         EXPECT_EQ(IsProtectedFile(c.path), c.isProtected) << c.path;
     }
+    // The writer still writes where nothing stands, and over a hidden file.
+    ASSERT_TRUE(AtomicWriteFile(Path("new.ico"), Bytes(ByteVec{4})).Ok);
+    ASSERT_TRUE(AtomicWriteFile(Path(".hidden.ico"), Bytes(ByteVec{5})).Ok);
+    EXPECT_EQ(ReadBytes(Path(".hidden.ico")), ByteVec{5});
+}
+
+TEST_F(FilesAtomic, CopyGivesTheNumberOfWhatFailed) {
+    WriteBytes(Path("a.ico"), {1, 2});
+    ASSERT_TRUE(CopyFileAtomically(Path("a.ico"), Path("b.ico")));
+    EXPECT_EQ(ReadBytes(Path("b.ico")), (ByteVec{1, 2}));
+    const struct {
+        std::string source, target;
+        int number;
+    } cases[] = {
+        {Path("missing.ico"), Path("c.ico"), ENOENT},
+        {m_dir.string(), Path("c.ico"), EINVAL},
+        {Path("a.ico"), Path("no/such/c.ico"), ENOENT},
+    };
+    for (const auto& c : cases) {
+        const FileWriteResult r = CopyFileAtomically(c.source, c.target);
+        EXPECT_FALSE(r.Ok) << c.source << " " << c.target;
+        EXPECT_EQ(r.Number, c.number) << c.source << " " << c.target;
+    }
+    EXPECT_FALSE(fs::exists(Path("c.ico")));
 }
 
 TEST_F(FilesAtomic, WriteIconFileWritesTheBuiltBytesAndReportsAReadOnlyTarget) {
@@ -126,7 +158,10 @@ TEST_F(FilesAtomic, WriteIconFileWritesTheBuiltBytesAndReportsAReadOnlyTarget) {
     EXPECT_EQ(ReadBytes(path).size(), 198u);
     EXPECT_EQ(SaveFailedMessage(path),
               "File is read-only\r\n\r\nYou may save it under a different file name or reset the file attributes.");
-    EXPECT_EQ(SaveFailedMessage(Path("no/such/x.ico")), "Failed to save this icon");
+    // A path where nothing can be found has no attributes: it counts as protected.
+    EXPECT_EQ(SaveFailedMessage(Path("no/such/x.ico")), ReadOnlyFileMessage());
+    WriteBytes(Path("plain.ico"), {1});
+    EXPECT_EQ(SaveFailedMessage(Path("plain.ico")), "Failed to save this icon");
     EXPECT_FALSE(WriteIconFile(test::Filled(24, 0), test::Filled(24, 0), Path("odd.ico"), {}, &error));
     EXPECT_FALSE(fs::exists(Path("odd.ico")));
 }

@@ -13,6 +13,7 @@ using test::ByteVec;
 using test::MakeIcoFile;
 using test::PlainImage;
 using test::RawImage;
+using test::U32At;
 
 // (side, bits) of each image in file order.
 ByteVec FileOf(std::initializer_list<std::pair<int, int>> images) {
@@ -90,17 +91,31 @@ TEST(IcoProbe, JudgesTheHeaderTheFirstEntryAndTheImageHeader) {
         {&one, {"empty", [](ByteVec& b) { b.clear(); }, "0/0/0/0/0/0"}},
         // Several: a non-square image is unusable; one whose header lies outside the file too.
         {&two, {"several: not square", [](ByteVec& b) { test::PatchU32(b, 38 + 8, 32); }, "2/1/1/16/16/4"}},
-        {&two, {"several: offset past the end", [=](ByteVec& b) { test::PatchU32(b, e1 + 12, 0xFFFFFFFF); },
-                "2/1/0/32/256/8"}},
         {&two, {"several: first entry unusable", [=](ByteVec& b) { b[e0 + 3] = 9; }, "0/0/0/0/0/0"}},
-        // idCount larger than the file: entries past the end are not read.
-        {&two, {"idCount 65535", [](ByteVec& b) { test::PatchU16(b, 4, 65535); }, "2/2/0/32/256/8"}},
+        // Several: a read that the file cuts short fails the probe, as any failed read does.
+        {&two, {"several: image header past the end", [=](ByteVec& b) { test::PatchU32(b, e1 + 12, 0xFFFFFFFF); },
+                "0/0/0/0/0/0"}},
+        {&two, {"several: image header cut", [](ByteVec& b) { b.resize(U32At(b, 22 + 12) + 39); }, "0/0/0/0/0/0"}},
+        {&two, {"several: second entry cut", [](ByteVec& b) { b.resize(6 + 16 + 15); }, "0/0/0/0/0/0"}},
+        {&two, {"idCount 65535", [](ByteVec& b) { test::PatchU16(b, 4, 65535); }, "0/0/0/0/0/0"}},
+        // Image bytes themselves are not read: a file cut after the last image header probes.
+        {&two, {"several: last image cut after its header", [](ByteVec& b) { b.resize(U32At(b, 22 + 12) + 40); },
+                "2/2/0/32/256/8"}},
     };
     for (const auto& [base, c] : cases) {
         ByteVec file = *base;
         c.mutate(file);
         EXPECT_EQ(ProbeIconFile(Bytes(file)).Text(), c.answer) << c.name;
     }
+}
+
+// Entries after the loop has ended are not read: with stopAtFirst a cut after the chosen
+// image does not matter.
+TEST(IcoProbe, AnEntryCutAfterTheChoiceEndedTheLoopIsNotRead) {
+    ByteVec file = FileOf({{32, 4}, {32, 8}, {16, 4}});
+    test::PatchU32(file, 6 + 32 + 12, 0x7FFFFFFF);  // the third image's header lies past the end
+    EXPECT_EQ(ProbeIconFile(Bytes(file), true).Text(), "2/2/1/32/256/8");
+    EXPECT_EQ(ProbeIconFile(Bytes(file), false).Text(), "0/0/0/0/0/0");
 }
 
 TEST(IcoProbe, AnswersNothingForAMissingFile) {

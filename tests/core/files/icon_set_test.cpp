@@ -12,6 +12,7 @@
 #include "core/files/ico_write.h"
 #include "core/files/icon_set.h"
 #include "ico_test_support.h"
+#include "support/icon_set_checks.h"
 
 namespace vexlo::files {
 namespace {
@@ -24,6 +25,7 @@ using test::MakeIcoFile;
 using test::PlainImage;
 using test::U16At;
 using test::U32At;
+using vexlo::test::NoTwoImagesOfOneSizeAndDepth;
 
 // Offsets and lengths of the directory of a file's bytes.
 std::vector<std::uint32_t> Offsets(const ByteVec& b) {
@@ -46,13 +48,17 @@ TEST(IconSet, HundredsOfImagesRoundTripByteForByte) {
     std::vector<test::RawImage> images;
     const int sides[] = {16, 32, 48, 64};
     const int bits[] = {1, 4, 8, 24, 32};
-    for (int j = 0; j < 130; ++j) images.push_back(PlainImage(sides[j % 4], bits[j % 5], static_cast<std::uint8_t>(j)));
+    for (int j = 0; j < 130; ++j) {
+        images.push_back(PlainImage(sides[j % 4], bits[j % 5], static_cast<std::uint8_t>(j)));
+        images.back().Entry.Height = static_cast<std::uint8_t>(j + 1);  // no two of one size and depth
+    }
     const ByteVec file = MakeIcoFile(images);
     IconSet set;
     ASSERT_EQ(ReadIconSet(Bytes(file), set), 130);
     const std::string path = (fs::temp_directory_path() / ("vexlo-set-" + std::to_string(::getpid()) + ".ico")).string();
     ASSERT_TRUE(WriteIconSet(path, set));
     EXPECT_EQ(test::ReadBytes(path), file);
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(path));
     fs::remove(path);
 }
 
@@ -72,52 +78,6 @@ TEST(IconSet, WritingClosesGapsAndPutsImagesInDirectoryOrder) {
     EXPECT_EQ(BuildIconSetBytes(set), file);
 }
 
-// A two-image file, broken one way at a time.
-struct HostileCase {
-    const char* name;
-    std::function<void(ByteVec&)> breakIt;
-    IconSetError error;
-};
-
-TEST(IconSet, HostileFilesAnswerZeroAndEmptyTheSet) {
-    using E = IconSetError;
-    const std::vector<HostileCase> cases = {
-        {"empty", [](ByteVec& b) { b.clear(); }, E::NotIconFile},
-        {"header cut", [](ByteVec& b) { b.resize(5); }, E::NotIconFile},
-        {"cursor type", [](ByteVec& b) { test::PatchU16(b, 2, 2); }, E::NotIconFile},
-        {"reserved", [](ByteVec& b) { test::PatchU16(b, 0, 1); }, E::NotIconFile},
-        {"no images", [](ByteVec& b) { test::PatchU16(b, 4, 0); }, E::NoImages},
-        {"count past the directory", [](ByteVec& b) { test::PatchU16(b, 4, 3); }, E::BadLayout},
-        {"count past the file", [](ByteVec& b) { test::PatchU16(b, 4, 65535); }, E::Truncated},
-        {"directory cut", [](ByteVec& b) { b.resize(30); }, E::Truncated},
-        {"last image cut", [](ByteVec& b) { b.pop_back(); }, E::Truncated},
-        {"offset past end", [](ByteVec& b) { test::PatchU32(b, 6 + 12, 0xFFFFFFF0); }, E::Truncated},
-        {"length past end", [](ByteVec& b) { test::PatchU32(b, 6 + 8, 0x7FFFFFFF); }, E::Truncated},
-        {"offset + length wraps 32 bits", [](ByteVec& b) {
-             test::PatchU32(b, 6 + 12, 0xFFFFFF00);
-             test::PatchU32(b, 6 + 8, 0x200);
-         }, E::Truncated},
-        {"offset into the directory", [](ByteVec& b) { test::PatchU32(b, 22 + 12, 20); }, E::BadLayout},
-        {"same offset twice", [](ByteVec& b) { test::PatchU32(b, 22 + 12, U32At(b, 6 + 12)); }, E::BadLayout},
-        {"overlap by one byte", [](ByteVec& b) { test::PatchU32(b, 22 + 12, U32At(b, 22 + 12) - 1); }, E::BadLayout},
-    };
-    const ByteVec good = MakeIcoFile({PlainImage(16, 1, 5), PlainImage(32, 4, 6)});
-    for (const HostileCase& c : cases) {
-        ByteVec file = good;
-        c.breakIt(file);
-        IconSet set;
-        ASSERT_EQ(ReadIconSet(Bytes(good), set), 2);
-        set.NewImage.Bytes = {1};
-        IconSetError why = E::None;
-        EXPECT_EQ(ReadIconSet(Bytes(file), set, &why), 0) << c.name;
-        EXPECT_EQ(why, c.error) << c.name;
-        EXPECT_EQ(set.Count(), 0) << c.name;
-        EXPECT_TRUE(set.NewImage.Bytes.empty()) << c.name;
-    }
-    IconSet set;
-    for (std::size_t len = 0; len < good.size(); ++len) ASSERT_EQ(ReadIconSet(Bytes(good.data(), len), set), 0) << len;
-}
-
 TEST(IconSetRemove, LaterImagesMoveByTheRemovedLengthPlus16AndEarlierBy16) {
     const ByteVec file = FourImages();
     const std::vector<std::uint32_t> before = Offsets(file);
@@ -135,6 +95,7 @@ TEST(IconSetRemove, LaterImagesMoveByTheRemovedLengthPlus16AndEarlierBy16) {
             EXPECT_EQ(ImageAt(out, j), ImageAt(file, old)) << i << " " << j;
         }
         EXPECT_EQ(out.size(), file.size() - gone - 16);
+        EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(out));
     }
 }
 
@@ -149,6 +110,7 @@ TEST(IconSetRemove, TheLastImageCannotGo) {
     test::WriteBytes(path, FourImages());
     EXPECT_TRUE(RemoveIconFromFile(path, 3));
     EXPECT_EQ(ReadIconSet(path, set), 3);
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(path));
     EXPECT_EQ(RemoveIconFromFile(path, 3).Message, "Failed to update the file for this icon.");
     fs::remove(path);
 }
@@ -190,6 +152,7 @@ TEST_F(IconSetAppend, AddsTheIconLastAndRefusesASecondOfTheSameDepth) {
     EXPECT_EQ(entry, (ByteVec{16, 16, 16, 0, 1, 0, 4, 0, 40, 1, 0, 0, 0x86, 8, 0, 0}));  // 296 bytes at 2182
     const ByteVec single = BuildIconFileBytes(Vga16(), mask, {});
     EXPECT_EQ(ImageAt(after, 2), ByteVec(single.begin() + 22, single.end()));
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(after));
 
     const SetResult again = AppendIconToFile(Vga16(), mask, Path("multi.ico"), 16, 4, {}, Dir());
     EXPECT_FALSE(again.Ok);
@@ -197,8 +160,8 @@ TEST_F(IconSetAppend, AddsTheIconLastAndRefusesASecondOfTheSameDepth) {
               "16 x 16    16-color\r\n\r\nIcon of same size and color palette already in file.\r\n"
               "Multi-icon file cannot have two icons of identical\r\nsize and color depth.\r\n\r\n");
     EXPECT_EQ(test::ReadBytes(Path("multi.ico")), after);
-    EXPECT_EQ(CheckAddTarget(Path("multi.ico"), 16, 16, 16, 4).Message, again.Message);
-    EXPECT_TRUE(CheckAddTarget(Path("multi.ico"), 48, 48, 16, 4));
+    EXPECT_EQ(CheckAddTarget(Path("multi.ico"), 16, 16, 16, 4, {16, 4}).Message, again.Message);
+    EXPECT_TRUE(CheckAddTarget(Path("multi.ico"), 48, 48, 16, 4, {16, 4}));
 }
 
 // A 32x32 icon of 300 colors: true color.
@@ -246,21 +209,21 @@ TEST_F(IconSetAppend, RefusalsLeaveTheFileAsItWas) {
         EXPECT_EQ(r.Message, c.message) << c.name;
         EXPECT_EQ(test::ReadBytes(Path(c.file)), before) << c.name;
     }
-    EXPECT_EQ(CheckAddTarget(Path("none.ico"), 16, 16, 16, 4).Message, "No icon found in " + Path("none.ico"));
+    EXPECT_EQ(CheckAddTarget(Path("none.ico"), 16, 16, 16, 4, {16, 4}).Message, "No icon found in " + Path("none.ico"));
 }
 
 TEST_F(IconSetAppend, SavingBackReplacesOneImageAndLeavesTheSourceAlone) {
     const ByteVec source = test::ReadBytes(Path("multi.ico"));
     // Image 0 is 16x16 at 8 bits: the icon at 4 bits replaces it; the 32x32 moves by the change.
-    EXPECT_TRUE(CheckReplaceTarget(Path("multi.ico"), 0, 16, 16, 256, 8));  // itself is no duplicate
-    EXPECT_EQ(CheckReplaceTarget(Path("multi.ico"), 0, 32, 32, 16, 4).Message,
+    EXPECT_TRUE(CheckReplaceTarget(Path("multi.ico"), 0, 16, 16, 256, 8, {256, 8}));  // itself is no duplicate
+    EXPECT_EQ(CheckReplaceTarget(Path("multi.ico"), 0, 32, 32, 16, 4, {16, 4}).Message,
               "32 x 32    16-color\r\n\r\nIcon of same size and color palette already in original multi-file.\r\n"
               "Multi-icon file cannot have two icons of identical size and color depth.\r\n\r\n"
               "You may save to a single-icon file or change color-depth first (to see\r\n"
               "original color-depth, click Enquiry menu).\r\n");
-    EXPECT_EQ(CheckReplaceTarget(Path("multi.ico"), 2, 48, 48, 2, 1).Message,
+    EXPECT_EQ(CheckReplaceTarget(Path("multi.ico"), 2, 48, 48, 2, 1, {2, 1}).Message,
               "The original multi-icon file has been changed meanwhile.\r\nCannot proceed to save current icon back.\r\n");
-    EXPECT_EQ(CheckReplaceTarget(Path("missing.ico"), 0, 16, 16, 2, 1).Message, "Failed to save current icon - reading");
+    EXPECT_EQ(CheckReplaceTarget(Path("missing.ico"), 0, 16, 16, 2, 1, {2, 1}).Message, "Failed to save current icon - reading");
 
     ASSERT_TRUE(ReplaceIconInFile(Vga16(), test::Filled(16, 0), {}, Path("multi.ico"), 0, Path("copy.ico"), Dir()));
     EXPECT_EQ(test::ReadBytes(Path("multi.ico")), source);
@@ -270,6 +233,7 @@ TEST_F(IconSetAppend, SavingBackReplacesOneImageAndLeavesTheSourceAlone) {
     EXPECT_EQ(Offsets(copy)[0], Offsets(source)[0]);
     EXPECT_EQ(Offsets(copy)[1], Offsets(source)[1] + 296 - (40 + 1024 + 256 + 64));
     EXPECT_EQ(ImageAt(copy, 1), ImageAt(source, 1));
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(copy));
 
     EXPECT_EQ(ReplaceIconInFile(Vga16(), test::Filled(16, 0), {}, Path("multi.ico"), 2, Path("copy.ico"), Dir()).Message,
               ChangedMeanwhileMessage());
@@ -280,6 +244,55 @@ TEST_F(IconSetAppend, SavingBackReplacesOneImageAndLeavesTheSourceAlone) {
               "Failed to save current icon - preparation");
     EXPECT_EQ(TempIconPath("/tmp/"), "/tmp/vexlotmp.ico");
     EXPECT_EQ(TempIconPath("/tmp"), "/tmp/vexlotmp.ico");
+}
+
+// The writer takes the depth from the pixels, the record may name another: an icon that came
+// from an 8-bit image and now holds only VGA colors is written at 4 bits. The duplicate test
+// must catch that depth too, or the file ends with two images of one size and depth.
+TEST_F(IconSetAppend, TheDuplicateTestTakesTheDepthAsWritten) {
+    test::WriteBytes(Path("four.ico"), MakeIcoFile({PlainImage(16, 4, 1), PlainImage(16, 8, 2)}));
+    const ByteVec before = test::ReadBytes(Path("four.ico"));
+    const Surface mask = test::Filled(16, 0);
+    const WrittenDepth written = DepthToWrite(Vga16(), {});
+    EXPECT_EQ(written.Colors, 16);
+    EXPECT_EQ(written.Bits, 4);
+    const std::string addRefusal = DuplicateAddMessage(16, 16, 16, 4);
+    const std::string replaceRefusal = DuplicateReplaceMessage(16, 16, 16, 4);
+
+    // Adding: the record says 16 colors at 8 bits, the image goes in at 4.
+    EXPECT_EQ(CheckAddTarget(Path("four.ico"), 16, 16, 16, 8, written).Message, addRefusal);
+    EXPECT_EQ(AppendIconToFile(Vga16(), mask, Path("four.ico"), 16, 8, {}, Dir()).Message, addRefusal);
+    // Saving back over image 1, the 8-bit one: the icon written at 4 bits is image 0 again.
+    EXPECT_EQ(CheckReplaceTarget(Path("four.ico"), 1, 16, 16, 256, 8, written).Message, replaceRefusal);
+    EXPECT_EQ(ReplaceIconInFile(Vga16(), mask, {}, Path("four.ico"), 1, Path("back.ico"), Dir()).Message,
+              replaceRefusal);
+    EXPECT_FALSE(fs::exists(Path("back.ico")));
+    EXPECT_EQ(test::ReadBytes(Path("four.ico")), before);
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(before));
+
+    // Over image 0 itself it is no duplicate: the 4-bit image is the one replaced.
+    ASSERT_TRUE(ReplaceIconInFile(Vga16(), mask, {}, Path("four.ico"), 0, Path("back.ico"), Dir()));
+    EXPECT_TRUE(NoTwoImagesOfOneSizeAndDepth(Path("back.ico")));
+}
+
+// The temporary file is made new each time: a link planted under its name is removed, never
+// followed, and the file it names stays as it was.
+TEST_F(IconSetAppend, APlantedLinkAtTheTemporaryFileIsNotFollowed) {
+    test::WriteBytes(Path("victim"), {1, 2, 3});
+    fs::create_symlink(Path("victim"), Path("vexlotmp.ico"));
+    IconImage made;
+    ASSERT_TRUE(PrepareNewImage(Vga16(), test::Filled(16, 0), {}, Dir(), made));
+    EXPECT_EQ(test::ReadBytes(Path("victim")), (ByteVec{1, 2, 3}));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(Path("vexlotmp.ico"))));
+    EXPECT_EQ(made.Entry.BitCount, 4);
+
+    // A folder in the way can't be cleared: the preparation fails and the folder stays.
+    fs::create_directory(Path("vexlotmp.ico"));
+    EXPECT_EQ(PrepareNewImage(Vga16(), test::Filled(16, 0), {}, Dir(), made).Message,
+              "Failed to save current icon - preparation");
+    EXPECT_TRUE(fs::is_directory(Path("vexlotmp.ico")));
+    EXPECT_EQ(PrepareNewImage(Vga16(), test::Filled(16, 0), {}, "", made).Message,
+              "Failed to save current icon - preparation");
 }
 
 TEST(IconSet, LabelsAndListLines) {

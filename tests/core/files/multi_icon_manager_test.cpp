@@ -3,11 +3,13 @@
 // after it, split and single saves, and the answers of the Add face.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 
 #include "core/files/multi_icon_manager.h"
 #include "multi_icon_test_files.h"
+#include "support/icon_set_checks.h"
 #include "support/scripted_host.h"
 #include "support/test_folder.h"
 
@@ -28,9 +30,16 @@ bool operator==(const MultiIconButtons& a, const MultiIconButtons& b) {
            a.SaveSingle == b.SaveSingle && a.Save == b.Save && a.SaveAs == b.SaveAs;
 }
 
+// Images of the given sides; a side that comes again is white (2 colors), so that no two
+// images are of one size and depth.
 std::vector<Pic> Sides(const std::vector<int>& sides) {
     std::vector<Pic> pics;
-    for (int side : sides) pics.push_back({side, side == 16 ? surface::Rgb(255, 0, 0) : surface::Rgb(10, 20, 30)});
+    for (std::size_t i = 0; i < sides.size(); ++i) {
+        const int side = sides[i];
+        const bool again = std::find(sides.begin(), sides.begin() + static_cast<std::ptrdiff_t>(i), side) !=
+                           sides.begin() + static_cast<std::ptrdiff_t>(i);
+        pics.push_back({side, again ? 0xFFFFFF : side == 16 ? surface::Rgb(255, 0, 0) : surface::Rgb(10, 20, 30)});
+    }
     return pics;
 }
 
@@ -222,6 +231,7 @@ TEST_F(MultiIconManagerTest, RemovalSelectsByTheRemovedImagesIndex) {
         EXPECT_EQ(host.shown[0].icon, host::MsgIcon::Question);
         host.shown.clear();
         EXPECT_EQ(Widths(path), c.after);
+        EXPECT_TRUE(vexlo::test::NoTwoImagesOfOneSizeAndDepth(path));
         EXPECT_EQ(m->Set().Count(), static_cast<int>(c.after.size()));
         EXPECT_EQ(m->Selected(), c.selected);
         EXPECT_EQ(m->IconInFile(0).Width(), c.previewSide);
@@ -241,6 +251,7 @@ TEST_F(MultiIconManagerTest, RemovalWritesTheSetHeldInMemoryNotTheDisk) {
     IconSet expected = held;
     ASSERT_TRUE(RemoveImageFromSet(expected, 0));
     EXPECT_EQ(test::ReadFileBytes(path), BuildIconSetBytes(expected));
+    EXPECT_TRUE(vexlo::test::NoTwoImagesOfOneSizeAndDepth(path));
 }
 
 TEST_F(MultiIconManagerTest, ARemovalThatCannotWriteLeavesTheListAndStopsTheFileButtons) {

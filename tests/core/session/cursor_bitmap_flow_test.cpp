@@ -147,5 +147,34 @@ TEST_F(CursorBitmapFlowTest, NoToTheSizeQuestionLeavesTheSlot) {
     EXPECT_EQ(s.Current().KindText, "New icon");
 }
 
+// A bitmap that can't be written: the common error box of the save, and the slot as it was.
+TEST_F(CursorBitmapFlowTest, ABitmapThatCannotBeWrittenShowsTheCommonErrorBox) {
+    s.FileNew(0);
+    s.Current().Changed = true;
+    fs::create_directory(Path("folder.bmp"));
+    const struct {
+        std::string path;
+        std::string text;
+    } cases[] = {
+        {Path("no/such/icon.bmp"), "mnuFileSaveAsBitmap\r\n2     No such file or directory"},
+        {Path("folder.bmp"), "mnuFileSaveAsBitmap\r\n13     Permission denied"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.path);
+        host.shown.clear();
+        host.AnswerSave(c.path);
+        host.Answer(MsgAnswer::Ok);
+        s.RunMenuItem("mnuFileSaveAsBitmap");
+        ASSERT_EQ(host.shown.size(), 1u);
+        EXPECT_EQ(host.shown[0].text, c.text);
+        EXPECT_EQ(host.shown[0].title, "Vexlo");
+        EXPECT_TRUE(s.Current().Changed);
+    }
+    host.AnswerSave(Path("icon.bmp"));
+    s.RunMenuItem("mnuFileSaveAsBitmap");
+    EXPECT_FALSE(s.Current().Changed);
+    EXPECT_TRUE(fs::is_regular_file(Path("icon.bmp")));
+}
+
 }  // namespace
 }  // namespace vexlo::test

@@ -133,6 +133,58 @@ TEST_F(FileFlowTest, BadFilesGiveTheirMessagesAndLeaveTheSlot) {
     EXPECT_EQ(s.Current().FileSpec, "Untitled");
 }
 
+// A load that fails after the slot was cleared leaves an empty slot, and the status bar and
+// the toolbar say so: nothing of the icon that was there before stays on them.
+TEST_F(FileFlowTest, AFailedLoadLeavesStatusBarAndToolbarAsForAnEmptySlot) {
+    s.FileNew(0);
+    Paint(1, 1, 0x123456);
+    host.AnswerSave(Path("good.ico"));
+    s.RunMenuItem("mnuFileSaveAsICO");
+    Paint(2, 2, 0x654321);  // an undo step
+    s.Current().Changed = false;
+    const std::string good = ReadBytes(Path("good.ico"));
+
+    // Cut inside the pixels: the probe reads only headers and passes it.
+    { std::ofstream(Path("cut.ico"), std::ios::binary) << good.substr(0, good.size() - 10); }
+    // A true-color image of 16 bits: the pixels can be read, the depth isn't taken.
+    std::string odd = good;
+    odd[6 + 6] = 16, odd[6 + 2] = 0, odd[6 + 7] = 0;  // wBitCount 16, bColorCount 0
+    odd[22 + 14] = 16, odd[22 + 15] = 0;                // biBitCount 16
+    odd += std::string(4096, '\0');
+    { std::ofstream(Path("odd.ico"), std::ios::binary) << odd; }
+    const struct {
+        const char* file;
+        std::string message;
+    } cases[] = {
+        {"cut.ico", files::FailedToLoadMessage(Path("cut.ico"))},
+        {"odd.ico", files::TrueColorDepthMessage(Path("odd.ico"))},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.file);
+        host.AnswerOpen(Path("good.ico"));
+        s.RunMenuItem("mnuFileOpen(0)");
+        Paint(2, 2, 0x654321);
+        s.Current().Changed = false;
+        ASSERT_EQ(s.Form().Status.Panel[0], Path("good.ico"));
+        ASSERT_TRUE(s.Form().ToolbarEnabled[4]);  // Save
+        ASSERT_GE(s.UndoCount(), 1);
+
+        host.shown.clear();
+        host.AnswerOpen(Path(c.file));
+        host.Answer(MsgAnswer::Ok);
+        s.RunMenuItem("mnuFileOpen(0)");
+        ASSERT_EQ(host.shown.size(), 1u);
+        EXPECT_EQ(host.shown[0].text, c.message);
+        EXPECT_FALSE(s.Current().Occupied);
+        EXPECT_FALSE(s.InArea());
+        for (const std::string& panel : s.Form().Status.Panel) EXPECT_EQ(panel, "");
+        EXPECT_FALSE(s.Form().Status.AlphaImageVisible);
+        EXPECT_EQ(s.UndoCount(), 0);
+        for (const std::size_t k : {4u, 5u, 6u, 10u, 13u, 21u}) EXPECT_FALSE(s.Form().ToolbarEnabled[k]) << k;
+        EXPECT_TRUE(s.Form().ToolbarEnabled[22]);  // fixed buttons stay
+    }
+}
+
 TEST_F(FileFlowTest, CommandLineOpensTheIconAndKeepsTheWorkingFolder) {
     s.FileNew(2);
     Paint(47, 47, 0x00FF00);
