@@ -89,9 +89,9 @@ int Split(const std::vector<std::string>& a, std::string& out, std::string& err)
     files::IconSet set;
     files::IconSetError setError = files::IconSetError::None;
     if (files::ReadIconSet(bytes, set, &setError) < 1) {
-        // Every entry decoded, so only images that share bytes are left for the set to refuse.
-        return Fail(err, a[0] + (setError == files::IconSetError::BadLayout ? ": two images share bytes"
-                                                                           : ": not an icon file"));
+        // Every entry decoded, so only images too large together are left for the set to refuse.
+        return Fail(err, a[0] + (setError == files::IconSetError::TooLarge ? ": the images together are too large"
+                                                                          : ": not an icon file"));
     }
     const files::MultiIconList list = files::BuildMultiIconList(set);
     if (list.Empty()) return Fail(err, a[0] + ": no image of 16x16, 32x32 or 48x48");
