@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets of fuzz/ with clang (fuzzer, AddressSanitizer and
 # UndefinedBehaviorSanitizer) in build-fuzz/ and runs each for SECONDS (default 60).
-# Corpora live in build-fuzz/corpus/<target>/, seeded from tests/fixtures/ico/; an input that
-# crashes is written to build-fuzz/artifacts/<target>/ and the script exits non-zero. Keep such
-# inputs as regression fixtures in tests/fixtures/ico/hostile/.
+# Corpora live in build-fuzz/corpus/<target>/, seeded from tests/fixtures/ico/ (and the ANI
+# target from tests/fixtures/ani/); an input that crashes is written to
+# build-fuzz/artifacts/<target>/ and the script exits non-zero. Keep such inputs as regression
+# fixtures in tests/fixtures/ico/hostile/.
 #   scripts/fuzz.sh [SECONDS]
 set -euo pipefail
 
@@ -32,8 +33,11 @@ for source in "$root"/fuzz/*_fuzz.cpp; do
   artifacts="$build/artifacts/$target"
   mkdir -p "$corpus" "$artifacts"
   find "$root/tests/fixtures/ico" -name '*.ico' -exec cp -n {} "$corpus/" \;
+  if [[ "$target" == ani_* ]]; then
+    find "$root/tests/fixtures/ani" -name '*.ani' -exec cp -n {} "$corpus/" \;
+  fi
   echo "== $target for ${seconds}s"
-  if ! "$build/fuzz/$target" "$corpus" -max_total_time="$seconds" -max_len=16384 -timeout=10 \
+  if ! "$build/fuzz/$target" "$corpus" -max_total_time="$seconds" -max_len=32768 -timeout=10 \
       -rss_limit_mb=1024 -print_final_stats=1 -artifact_prefix="$artifacts/"; then
     echo "$target: found a failing input, see $artifacts/" >&2
     status=1

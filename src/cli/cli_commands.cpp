@@ -14,18 +14,25 @@ constexpr const char* kUsage =
     "usage: vexlo-cli COMMAND [ARGS]\n"
     "\n"
     "Inspect and convert icons. 'probe' judges a file as the Vexlo editor does; 'info',\n"
-    "'export' and 'split' read what each image of an icon or cursor file really holds and\n"
-    "refuse a file they cannot read whole; 'convert' saves as the editor saves.\n"
+    "'export' and 'split' read what each image of an icon, cursor or animated cursor file\n"
+    "really holds and refuse a file they cannot read whole; 'convert' and 'ani' save as the\n"
+    "editor saves.\n"
     "\n"
     "commands:\n"
     "  probe FILE                     the editor's judgement of an icon file\n"
-    "  info FILE                      one line per image of an icon or cursor file\n"
-    "  export FILE INDEX OUT.png      one image of an icon or cursor file as an RGBA PNG\n"
+    "  info FILE [--json]             one line per image of an icon or cursor file; the\n"
+    "                                 header, steps and frames of an animated cursor\n"
+    "  export FILE INDEX OUT.png [--image I]\n"
+    "                                 one image of an icon or cursor file, or of frame\n"
+    "                                 INDEX of an animated cursor, as an RGBA PNG\n"
     "  convert IN OUT.ico [--force256]\n"
     "                                 a 16x16, 32x32 or 48x48 PNG, BMP or ICO picture\n"
     "                                 saved as the editor saves it\n"
     "  split FILE OUTDIR              every listed image of a multi-icon file as a\n"
     "                                 single-icon file, bytes unchanged\n"
+    "  ani OUT.ani [--jiffies J,...] [--hotspot X,Y] FRAME...\n"
+    "                                 an animated cursor of 32x32 pictures, written as\n"
+    "                                 the editor writes it\n"
     "\n"
     "A refused file or argument gives exit status 1 and one line on stderr.\n"
     "'vexlo-cli COMMAND --help' tells more of one command.\n";
@@ -39,7 +46,7 @@ constexpr const char* kProbeHelp =
     "file answers 0/0/0/0/0/0 with exit status 0.\n";
 
 constexpr const char* kInfoHelp =
-    "usage: vexlo-cli info FILE\n"
+    "usage: vexlo-cli info FILE [--json]\n"
     "Reads every image of an icon (ICO) or cursor (CUR) file and prints one line per\n"
     "directory entry: index, width x height, bits per pixel, colors (entries of its color\n"
     "table or palette, -1 for none), bytes in resource, offset and 'ok'; then 'png' for an\n"
@@ -49,15 +56,38 @@ constexpr const char* kInfoHelp =
     "with any image that cannot be read whole: data over the directory or past the end of\n"
     "the file, an image header of an unknown size, planes other than 1, a bit count other\n"
     "than 1, 4, 8, 24 or 32, compression (RLE, bit fields), a width or height other than the\n"
-    "directory's, rows cut short, a color index past the table, a broken PNG.\n";
+    "directory's, rows cut short, a color index past the table, a broken PNG.\n"
+    "An animated cursor (RIFF ACON) prints 'frames=N steps=M rate=R flags=F' (R the header's\n"
+    "display rate in jiffies, F its flags), 'title=' and 'artist=' lines (empty without\n"
+    "them), one line 'step K frame F jiffies J' per step, with the jiffies as the editor\n"
+    "reads them (the first 'rate' tag's entries, else the header's rate; low bytes only,\n"
+    "clamped to 1..90), then 'frame F' and the lines of each frame's images as above. The\n"
+    "file is refused with the reason when a chunk, count or frame doesn't hold together.\n"
+    "--json prints the same as one JSON object, for every file type: kind (ani, ico, cur),\n"
+    "frames, steps, rate, flags, title, artist (null when absent; texts as Latin-1),\n"
+    "sequence (the frame of each step), jiffies (null for a still file) and images, one\n"
+    "object per image with its frame, index, width, height, bits, colors, bytes, offset\n"
+    "(within its frame's file), png and hotspot ([x,y], null for an icon).\n";
 
 constexpr const char* kExportHelp =
-    "usage: vexlo-cli export FILE INDEX OUT.png\n"
+    "usage: vexlo-cli export FILE INDEX OUT.png [--image I]\n"
     "Decodes image INDEX (from 0) of an icon or cursor file as the file holds it and writes\n"
     "an RGBA PNG of its size. A PNG image gives its own pixels. Any other gives the colors of\n"
     "its color rows with alpha 0 where its mask is set; a 32-bit image gives its own alpha\n"
     "(its mask's when all its alpha bytes are 0; it may have no mask rows). An image that\n"
-    "cannot be read whole is refused as 'info' refuses it.\n";
+    "cannot be read whole is refused as 'info' refuses it.\n"
+    "For an animated cursor INDEX is a frame (from 0), and the image written is image I of\n"
+    "that frame's file, by default the one the editor shows: the 32x32 one, else the nearest\n"
+    "size of 16x16 and 48x48 (the larger on a tie), the deepest of one size.\n";
+
+constexpr const char* kAniHelp =
+    "usage: vexlo-cli ani OUT.ani [--jiffies J,...] [--hotspot X,Y] FRAME...\n"
+    "Builds an animated cursor of 1 to 70 frames, in the order given, each a 32x32 picture:\n"
+    "PNG, BMP (a pixel with alpha below 128 is transparent), ICO (the image the editor opens)\n"
+    "or CUR. The file is written by the editor's own writer, byte for byte what a save in the\n"
+    "editor writes: each frame a cursor at the depth of its colors, every frame with the hot\n"
+    "spot X,Y (0 to 31, default 0,0), and the jiffies of each frame in a rate chunk: one value\n"
+    "for all frames or one per frame, 1 to 90 (default 30).\n";
 
 constexpr const char* kSplitHelp =
     "usage: vexlo-cli split FILE OUTDIR\n"
@@ -149,7 +179,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
     };
     static const Entry kCommands[] = {{"probe", kProbeHelp}, {"info", kInfoHelp},
                                       {"export", kExportHelp}, {"convert", kConvertHelp},
-                                      {"split", kSplitHelp}};
+                                      {"split", kSplitHelp}, {"ani", kAniHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -160,6 +190,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
         if (command == "info") return Info(rest, out, err);
         if (command == "export") return Export(rest, err);
         if (command == "split") return Split(rest, out, err);
+        if (command == "ani") return AniBuild(rest, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");

@@ -1,8 +1,12 @@
 #pragma once
 // What the command files of vexlo-cli share: the one-line failure and the whole-file read.
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "core/files/byte_reader.h"
 
 namespace vexlo::cli {
 
@@ -17,5 +21,14 @@ bool ReadInputFile(const std::string& path, std::vector<std::uint8_t>& data, std
 int Info(const std::vector<std::string>& args, std::string& out, std::string& err);
 int Export(const std::vector<std::string>& args, std::string& err);
 int Split(const std::vector<std::string>& args, std::string& out, std::string& err);
+
+// Reading an index from 0: false for anything but a whole number.
+bool ParseIndex(const std::string& text, std::size_t& index);
+
+// The animated cursor's side of info and export (ani_commands.cpp), and the ani command.
+int AniInfo(const std::string& path, files::Bytes bytes, bool json, std::string& out, std::string& err);
+int AniExport(const std::string& path, files::Bytes bytes, std::size_t frame, const std::optional<std::string>& image,
+              const std::string& outPath, std::string& err);
+int AniBuild(const std::vector<std::string>& args, std::string& err);
 
 }  // namespace vexlo::cli

@@ -2,69 +2,72 @@
 #include <charconv>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "cli/cli_support.h"
 #include "cli/icon_entries.h"
+#include "cli/image_report.h"
 #include "cli/png_io.h"
+#include "core/ani/acon_file.h"
 #include "core/files/icon_set.h"
 #include "core/files/multi_icon_list.h"
 
 namespace vexlo::cli {
 
-namespace {
-
-// The file's header and directory, and every entry decoded, one at a time (no more than one
-// image's pixels are held, however many entries the directory names); each is handed to
-// each, if given. The first entry that fails refuses the file.
-bool ReadWholeIconFile(const std::string& path, files::Bytes bytes, IconDirectory& dir, std::string& err,
-                       const std::function<void(std::size_t, const EntryImage&)>& each = {}) {
-    std::string why;
-    if (!ReadIconDirectory(bytes, dir, why)) {
-        Fail(err, path + ": " + why);
-        return false;
-    }
-    for (std::size_t i = 0; i < dir.Entries.size(); ++i) {
-        EntryImage image;
-        if (!DecodeIconEntry(bytes, dir, i, image, why)) {
-            Fail(err, path + ": image " + std::to_string(i) + ": " + why);
-            return false;
-        }
-        if (each) each(i, image);
-    }
-    return true;
-}
-
-}  // namespace
-
 int Info(const std::vector<std::string>& a, std::string& out, std::string& err) {
-    if (a.size() != 1) return Fail(err, "info takes one FILE (see 'vexlo-cli info --help')");
+    std::vector<std::string> paths;
+    bool json = false;
+    for (const std::string& s : a) {
+        if (s == "--json")
+            json = true;
+        else if (!s.empty() && s[0] == '-')
+            return Fail(err, "unknown option " + s);
+        else
+            paths.push_back(s);
+    }
+    if (paths.size() != 1) return Fail(err, "info takes one FILE (see 'vexlo-cli info --help')");
+    const std::string& path = paths[0];
     std::vector<std::uint8_t> data;
-    if (!ReadInputFile(a[0], data, err)) return 1;
+    if (!ReadInputFile(path, data, err)) return 1;
+    const files::Bytes bytes(data.data(), data.size());
+    if (ani::IsAconFile(bytes)) return AniInfo(path, bytes, json, out, err);
     IconDirectory dir;
     std::string lines;  // printed only when every image reads
-    const auto line = [&dir, &lines](std::size_t i, const EntryImage& image) {
-        const IconEntry& e = dir.Entries[i];
-        lines += std::to_string(i) + " " + std::to_string(e.Width) + "x" + std::to_string(e.Height) + " " +
-                 std::to_string(image.Bits) + " " + std::to_string(image.Colors) + " " +
-                 std::to_string(e.BytesInRes) + " " + std::to_string(e.ImageOffset) + " ok";
-        if (image.Png) lines += " png";
-        if (dir.IsCursor()) lines += " hotspot " + std::to_string(e.Planes) + "," + std::to_string(e.BitCount);
-        lines += "\n";
+    const auto line = [&dir, &lines, json](std::size_t i, const EntryImage& image) {
+        if (json && i) lines += ',';
+        lines += json ? EntryJson(0, dir, i, image) : EntryLine(dir, i, image);
     };
-    if (!ReadWholeIconFile(a[0], files::Bytes(data.data(), data.size()), dir, err, line)) return 1;
-    out += lines;
+    if (!ReadWholeIconFile(path, bytes, dir, err, line)) return 1;
+    if (json) {
+        // A still file is one frame shown at one step, with no timing, title or artist.
+        out += std::string("{\"kind\":") + (dir.IsCursor() ? "\"cur\"" : "\"ico\"") +
+               ",\"frames\":1,\"steps\":1,\"rate\":null,\"flags\":null,\"title\":null,\"artist\":null,"
+               "\"sequence\":[0],\"jiffies\":[null],\"images\":[" + lines + "]}\n";
+    } else {
+        out += lines;
+    }
     return 0;
 }
 
-int Export(const std::vector<std::string>& a, std::string& err) {
+int Export(const std::vector<std::string>& args, std::string& err) {
+    std::vector<std::string> a;
+    std::optional<std::string> imageOption;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--image" && i + 1 < args.size())
+            imageOption = args[++i];
+        else if (!args[i].empty() && args[i][0] == '-')
+            return Fail(err, "unknown option " + args[i]);
+        else
+            a.push_back(args[i]);
+    }
     if (a.size() != 3) return Fail(err, "export takes FILE INDEX OUT.png (see 'vexlo-cli export --help')");
     std::size_t index = 0;
-    const auto [end, ec] = std::from_chars(a[1].data(), a[1].data() + a[1].size(), index);
-    if (ec != std::errc() || end != a[1].data() + a[1].size())
-        return Fail(err, "INDEX must be a whole number from 0: " + a[1]);
+    if (!ParseIndex(a[1], index)) return Fail(err, "INDEX must be a whole number from 0: " + a[1]);
     std::vector<std::uint8_t> data;
     if (!ReadInputFile(a[0], data, err)) return 1;
     const files::Bytes bytes(data.data(), data.size());
+    if (ani::IsAconFile(bytes)) return AniExport(a[0], bytes, index, imageOption, a[2], err);
+    if (imageOption) return Fail(err, "--image is for animated cursors; INDEX names the image of an icon file");
     IconDirectory dir;
     std::string why;
     if (!ReadIconDirectory(bytes, dir, why)) return Fail(err, a[0] + ": " + why);
@@ -74,6 +77,11 @@ int Export(const std::vector<std::string>& a, std::string& err) {
     if (!DecodeIconEntry(bytes, dir, index, image, why))
         return Fail(err, a[0] + ": image " + a[1] + ": " + why);
     return WritePngFile(image.Pixels, a[2], why) ? 0 : Fail(err, why);
+}
+
+bool ParseIndex(const std::string& text, std::size_t& index) {
+    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), index);
+    return ec == std::errc() && end == text.data() + text.size() && !text.empty();
 }
 
 int Split(const std::vector<std::string>& a, std::string& out, std::string& err) {

@@ -6,6 +6,7 @@
 #include "cli/bmp_read.h"
 #include "cli/png_io.h"
 #include "core/files/byte_reader.h"
+#include "core/files/cursor_file.h"
 #include "core/files/ico_format.h"
 #include "core/files/ico_probe.h"
 #include "core/files/ico_read.h"
@@ -36,6 +37,20 @@ bool ReadIco(files::Bytes data, const std::string& path, IconPlanes& out, std::s
     return true;
 }
 
+// A still cursor of 32x32 as the editor opens it (a cursor keeps no alpha values).
+bool ReadCur(files::Bytes data, const std::string& path, IconPlanes& out, std::string& error) {
+    files::CursorImage cursor;
+    if (!files::ReadCursorFile(data, cursor)) {
+        error = path + ": not a cursor file of one 32x32 image with its hotspot inside";
+        return false;
+    }
+    alpha::AlphaArray unused;
+    files::PutDecodedIcon(std::move(cursor.Planes), out.Image, out.Mask, unused);
+    out.Alpha.SetSingle();
+    out.HasAlpha = false;
+    return true;
+}
+
 }  // namespace
 
 bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error) {
@@ -47,6 +62,8 @@ bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error) {
     const files::Bytes bytes(data.data(), data.size());
     if (bytes.size() >= 4 && bytes[0] == 0 && bytes[1] == 0 && bytes[2] == 1 && bytes[3] == 0)
         return ReadIco(bytes, path, out, error);
+    if (bytes.size() >= 4 && bytes[0] == 0 && bytes[1] == 0 && bytes[2] == 2 && bytes[3] == 0)
+        return ReadCur(bytes, path, out, error);
     RgbaImage picture;
     std::string why;
     bool read = false;
@@ -55,7 +72,7 @@ bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error) {
     else if (bytes.size() >= 2 && bytes[0] == 'B' && bytes[1] == 'M')
         read = ReadBmp(bytes, IsIconPictureSize, picture, why);
     else
-        why = "not a PNG, BMP or ICO picture";
+        why = "not a PNG, BMP, ICO or CUR picture";
     if (!read) {
         error = path + ": " + why;
         return false;

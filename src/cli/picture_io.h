@@ -17,8 +17,9 @@ struct IconPlanes {
 };
 
 // Reads a picture of 16x16, 32x32 or 48x48, told by its first bytes: a PNG or a BMP (a pixel
-// with alpha below 128 becomes transparent), or an icon file (the image that the editor opens
-// without asking, decoded by the editor's reader). False with a reason naming the file.
+// with alpha below 128 becomes transparent), an icon file (the image that the editor opens
+// without asking, decoded by the editor's reader), or a still cursor of 32x32 (the editor's
+// cursor reader). False with a reason naming the file.
 bool ReadPicture(const std::string& path, IconPlanes& out, std::string& error);
 
 }  // namespace vexlo::cli

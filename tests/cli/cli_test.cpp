@@ -155,7 +155,7 @@ TEST_F(CliTest, ConvertReadsBmpFilesWithItsOwnReader) {
          "the picture is 64x64, not 16x16"},
         {"cut.bmp", BmpBytes(DibHeaderBytes({.Height = 16, .Bits = 24}), {}, std::vector<std::uint8_t>(700)),
          "its 768 bytes of pixels at offset 54 run past the end"},
-        {"gif.gif", {'G', 'I', 'F', '8', '9', 'a'}, "not a PNG, BMP or ICO picture"},
+        {"gif.gif", {'G', 'I', 'F', '8', '9', 'a'}, "not a PNG, BMP, ICO or CUR picture"},
     };
     for (const auto& c : refused) {
         const std::string path = Write(c.name, c.bytes);
