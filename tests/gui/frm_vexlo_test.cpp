@@ -10,8 +10,9 @@
 #include <QToolButton>
 #include <QTest>
 
-#include "gui/shell/frm_vexlo.h"
+#include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
+#include "gui/shell/frm_vexlo.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {

@@ -21,12 +21,18 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
     lblEffectsSample = new QLabel("Preview", frame);
     lblEffectsSample->setAlignment(Qt::AlignCenter);
     lblEffectsSample->setGeometry(8, 26, 250, 16);
+    // The previews show the icon at its own size, as the real-size views beside the Editing
+    // Area do, each in a sunken box that holds the largest icon.
     for (int i = 0; i < 2; ++i) {
-        auto* view = new SurfaceView(nullptr, frame);
+        auto* box = new QFrame(frame);
+        box->setFrameShape(QFrame::Panel);
+        box->setFrameShadow(QFrame::Sunken);
+        box->setLineWidth(2);
+        box->setGeometry(44 + i * 120, 50, 52, 52);
+        auto* view = new SurfaceView(nullptr, box);
         view->setObjectName(QString("picEffectsSample%1").arg(i));
-        view->SetScale(2);
         view->SetCentred(true);
-        view->setGeometry(20 + i * 120, 44, 100, 100);
+        view->setGeometry(2, 2, 48, 48);
         picEffectsSample[static_cast<std::size_t>(i)] = view;
     }
 

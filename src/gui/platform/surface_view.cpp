@@ -19,12 +19,12 @@ void SurfaceView::SetSurface(const surface::Surface* surface) {
 }
 
 QSize SurfaceView::sizeHint() const {
-    return m_surface ? QSize(m_surface->Width() * m_scale, m_surface->Height() * m_scale) : QSize(0, 0);
+    return m_surface ? QSize(m_surface->Width(), m_surface->Height()) : QSize(0, 0);
 }
 
 QPoint SurfaceView::Origin() const {
     if (!m_centred || !m_surface) return {0, 0};
-    return {(width() - m_surface->Width() * m_scale) / 2, (height() - m_surface->Height() * m_scale) / 2};
+    return {(width() - m_surface->Width()) / 2, (height() - m_surface->Height()) / 2};
 }
 
 void SurfaceView::paintEvent(QPaintEvent*) {

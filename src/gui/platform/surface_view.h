@@ -16,8 +16,6 @@ public:
     const surface::Surface* SurfaceShown() const { return m_surface; }
     // Shows the Surface centred in the widget instead of at the top left.
     void SetCentred(bool centred) { m_centred = centred; }
-    // Shows every pixel as a square of scale x scale screen pixels (no smoothing).
-    void SetScale(int scale) { m_scale = scale < 1 ? 1 : scale; }
     QSize sizeHint() const override;
 
 signals:
@@ -39,7 +37,6 @@ private:
 
     const surface::Surface* m_surface = nullptr;
     bool m_centred = false;
-    int m_scale = 1;
     bool m_releaseEndsDoubleClick = false;  // a double click gives one Click, not two
 };
 

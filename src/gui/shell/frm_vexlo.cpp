@@ -23,6 +23,8 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     : QMainWindow(parent), m_session(m_host), m_commandLine(std::move(commandLine)) {
     InitResources();
     setWindowTitle("Vexlo");
+    // The layout is fixed: nothing to gain from a larger window.
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     m_host.SetRefreshDisplay([this] {
         if (picDisp) picDisp->update();
     });
@@ -64,6 +66,29 @@ void FrmVexlo::showEvent(QShowEvent* event) {
         m_activationScheduled = true;
         QTimer::singleShot(0, this, [this] { FirstActivate(); });
     }
+}
+
+void FrmVexlo::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange) return;
+    static constexpr Qt::WindowStates kLarge = Qt::WindowMaximized | Qt::WindowFullScreen;
+    if (windowState() & kLarge)
+        QTimer::singleShot(0, this, [this] { setWindowState(windowState() & ~kLarge); });
+}
+
+void FrmVexlo::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    const QSize fixed = minimumSize();
+    if (fixed != maximumSize() || isMinimized()) return;  // not placed by the load yet
+    if (size() == fixed) {
+        m_foreignSize = {};
+        return;
+    }
+    // A window manager that ignores the size hints, or a maximize, gave another size. Ask for
+    // the fixed one once; a window manager that insists keeps its size, without a tug of war.
+    if (size() == m_foreignSize) return;
+    m_foreignSize = size();
+    QTimer::singleShot(0, this, [this] { resize(minimumSize()); });
 }
 
 void FrmVexlo::FirstActivate() {

@@ -24,9 +24,11 @@ class QToolButton;
 
 namespace vexlo::gui {
 
+class ElidedLabel;
 class SurfaceView;
 
-// The window's outer size: 11500 by 8600 twips at 15 twips a pixel.
+// The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
+// window itself; a window manager's frame comes around it.
 inline constexpr int kFormWidth = 767;
 inline constexpr int kFormHeight = 573;
 
@@ -66,7 +68,7 @@ public:
     QLabel* lblMask = nullptr;
     std::array<SurfaceView*, session::kSlotCount> picPanelIcon{};
     std::array<QLabel*, session::kSlotCount> lblPanelIcon{};
-    std::array<QLabel*, 4> lblStatusPanel{};
+    std::array<ElidedLabel*, 4> lblStatusPanel{};  // a long path shows shortened, whole in its tooltip
     QLabel* imgAlphaOnStatusPanel = nullptr;
     QFrame* picProgressContainer = nullptr;
     QFrame* picProgress = nullptr;
@@ -107,6 +109,10 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    // The window keeps its fixed size: a maximised or full-screen state is undone, and a size
+    // that the window system sets otherwise is asked back once.
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -136,6 +142,7 @@ private:
     std::string m_commandLine;
     bool m_activationScheduled = false;
     bool m_activating = false;
+    QSize m_foreignSize;  // the last size given by the window system and asked back
     QWidget* m_form = nullptr;
     tools::Pointer m_shownPointer;
     std::vector<QWidget*> castWidgets;  // shown only for Cast

@@ -7,6 +7,7 @@
 #include <QStatusBar>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
@@ -154,7 +155,7 @@ void FrmVexlo::BuildStatusBar() {
     bar->setSizeGripEnabled(false);
     static constexpr int kWidths[4] = {330, 40, 70, 44};
     for (int i = 0; i < 4; ++i) {
-        auto* label = new QLabel(bar);
+        auto* label = new ElidedLabel(bar);
         label->setFrameShape(QFrame::Panel);
         label->setFrameShadow(QFrame::Sunken);
         label->setFixedWidth(kWidths[i]);

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
@@ -62,7 +63,8 @@ void FrmVexlo::SyncFromModel() {
 
 void FrmVexlo::SyncStatus() {
     const session::StatusBar& status = m_session.Form().Status;
-    for (std::size_t i = 0; i < 4; ++i) SetText(lblStatusPanel[i], status.Panel[i]);
+    for (std::size_t i = 0; i < 4; ++i)
+        lblStatusPanel[i]->SetFullText(QString::fromStdString(status.Panel[i]));
     imgAlphaOnStatusPanel->setVisible(status.AlphaImageVisible);
 
     picProgressContainer->setVisible(status.ProgressVisible);

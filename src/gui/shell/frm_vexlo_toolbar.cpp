@@ -1,5 +1,4 @@
 // cmdTB: the toolbar's buttons in the row above the Editing Area.
-#include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -7,17 +6,11 @@
 #include "core/session/menu_tree.h"
 #include "gui/shell/frm_vexlo.h"
 #include "gui/platform/surface_view.h"
+#include "gui/shell/pictures.h"
 
 namespace vexlo::gui {
 
 namespace {
-
-// The picture of button k: the resource file whose name starts with tb_kk_.
-QIcon ButtonPicture(int k) {
-    const QStringList names =
-        QDir(":/toolbar").entryList({QString("tb_%1_*.png").arg(k, 2, 10, QChar('0'))});
-    return names.isEmpty() ? QIcon() : QIcon(":/toolbar/" + names.first());
-}
 
 // Separators (elements 26 to 30) stand after these buttons.
 bool SeparatorAfter(int k) { return k == 3 || k == 5 || k == 7 || k == 12 || k == 16; }
@@ -33,7 +26,7 @@ void FrmVexlo::BuildToolbar(QWidget* row) {
         const session::ToolbarButton& b = buttons[static_cast<std::size_t>(k)];
         auto* button = new QToolButton(row);
         button->setObjectName(QString("cmdTB%1").arg(k));
-        button->setIcon(ButtonPicture(k));
+        button->setIcon(QIcon(ToolbarPicturePath(k)));
         button->setIconSize(QSize(16, 16));
         button->setFixedSize(24, 24);
         button->setAutoRaise(true);

@@ -1,25 +1,16 @@
 // The Toolbox under the Editing Area, and the pointer events of picDisp.
-#include <QBitmap>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
 #include "gui/platform/surface_view.h"
+#include "gui/shell/pictures.h"
 
 namespace vexlo::gui {
 
 namespace {
 
 using tools::Tool;
-
-// The picture of a Toolbox button: the resource file whose name starts with its key.
-QIcon ToolPicture(const QString& key) {
-    const QStringList names = QDir(":/toolbox").entryList({key + "_*.png"});
-    return names.isEmpty() ? QIcon() : QIcon(":/toolbox/" + names.first());
-}
-
-QString ToolKey(int i) { return QString("tool_%1").arg(i, 2, 10, QChar('0')); }
 
 bool ModifierDown(Qt::KeyboardModifiers m) {
     return m & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
@@ -37,10 +28,11 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(1);
-    auto addButton = [&](const QString& key, const char* tooltip, auto onClick) {
+    auto addButton = [&](const QString& name, const QString& picture, const char* tooltip,
+                         auto onClick) {
         auto* b = new QToolButton(row);
-        b->setObjectName(key);
-        b->setIcon(ToolPicture(key));
+        b->setObjectName(name);
+        b->setIcon(QIcon(picture));
         b->setIconSize(QSize(16, 16));
         b->setFixedSize(24, 24);
         b->setCheckable(true);
@@ -54,12 +46,15 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
     for (int i = 0; i < tools::kToolCount; ++i) {
         const auto tool = static_cast<Tool>(i);
         ToolButtons[static_cast<std::size_t>(i)] =
-            addButton(ToolKey(i), tools::ToolTooltip(tool), [tool](session::Session& s) { s.ClickTool(tool); });
+            addButton(QString("tool_%1").arg(i, 2, 10, QChar('0')), ToolPicturePath(tool),
+                      tools::ToolTooltip(tool), [tool](session::Session& s) { s.ClickTool(tool); });
     }
-    imgColorPicker = addButton("tool_picker", tools::kColorPickerTooltip,
-                               [](session::Session& s) { s.ClickColorPicker(); });
-    imgClearAllTools = addButton("tool_clear", tools::kClearAllToolsTooltip,
-                                 [](session::Session& s) { s.ClickClearAllTools(); });
+    imgColorPicker =
+        addButton("tool_picker", kColorPickerPicturePath, tools::kColorPickerTooltip,
+                  [](session::Session& s) { s.ClickColorPicker(); });
+    imgClearAllTools =
+        addButton("tool_clear", kClearAllToolsPicturePath, tools::kClearAllToolsTooltip,
+                  [](session::Session& s) { s.ClickClearAllTools(); });
     imgClearAllTools->setCheckable(false);
     layout->addStretch();
 
@@ -89,16 +84,7 @@ void FrmVexlo::SyncPointer() {
         case tools::PointerShape::SizeNS: picDisp->setCursor(Qt::SizeVerCursor); break;
         case tools::PointerShape::SizeWE: picDisp->setCursor(Qt::SizeHorCursor); break;
         case tools::PointerShape::SizeAll: picDisp->setCursor(Qt::SizeAllCursor); break;
-        case tools::PointerShape::Custom: {
-            const QString key = p.ColorPickerPicture ? QString("tool_picker")
-                                                     : ToolKey(static_cast<int>(p.Picture));
-            const QPixmap picture = ToolPicture(key).pixmap(16, 16);
-            if (picture.isNull())
-                picDisp->setCursor(Qt::PointingHandCursor);
-            else
-                picDisp->setCursor(QCursor(picture.scaled(32, 32), 0, 31));
-            break;
-        }
+        case tools::PointerShape::Custom: picDisp->setCursor(CustomPointer(p)); break;
     }
 }
 
