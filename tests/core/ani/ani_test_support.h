@@ -10,31 +10,19 @@
 
 #include "core/files/cursor_file.h"
 #include "core/surface/surface.h"
+#include "support/test_bytes.h"
 
 namespace vexlo::ani::test {
 
 using surface::Color;
 using surface::Surface;
-using ByteVec = std::vector<std::uint8_t>;
+using vexlo::test::ByteVec;
+using vexlo::test::U16At;
+using vexlo::test::U32At;
+using vexlo::test::WriteBytes;
 
-inline ByteVec LoadFixture(const std::string& name) {
-    std::ifstream in(std::string(VEXLO_FIXTURES_DIR) + "/ani/" + name, std::ios::binary);
-    return ByteVec(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-inline std::string FixturePath(const std::string& name) { return std::string(VEXLO_FIXTURES_DIR) + "/ani/" + name; }
-
-inline void WriteBytes(const std::string& path, const ByteVec& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
-
-inline std::uint32_t U32At(const ByteVec& b, std::size_t at) {
-    return static_cast<std::uint32_t>(b[at]) | (static_cast<std::uint32_t>(b[at + 1]) << 8) |
-           (static_cast<std::uint32_t>(b[at + 2]) << 16) | (static_cast<std::uint32_t>(b[at + 3]) << 24);
-}
-inline std::uint16_t U16At(const ByteVec& b, std::size_t at) {
-    return static_cast<std::uint16_t>(b[at] | (b[at + 1] << 8));
-}
+inline std::string FixturePath(const std::string& name) { return vexlo::test::FixturePathOf("ani/" + name); }
+inline ByteVec LoadFixture(const std::string& name) { return vexlo::test::ReadBytes(FixturePath(name)); }
 inline std::string IdAt(const ByteVec& b, std::size_t at) { return std::string(b.begin() + static_cast<long>(at), b.begin() + static_cast<long>(at) + 4); }
 inline void PatchU32(ByteVec& b, std::size_t at, std::uint32_t v) {
     for (int i = 0; i < 4; ++i) b[at + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(v >> (8 * i));

@@ -9,35 +9,19 @@
 
 #include "core/files/ico_format.h"
 #include "core/surface/surface.h"
+#include "support/test_bytes.h"
 
 namespace vexlo::files::test {
 
 using surface::Color;
 using surface::Surface;
-using ByteVec = std::vector<std::uint8_t>;
+using vexlo::test::ByteVec;
+using vexlo::test::ReadBytes;
+using vexlo::test::U16At;
+using vexlo::test::U32At;
+using vexlo::test::WriteBytes;
 
-inline ByteVec LoadFixture(const std::string& relative) {
-    std::ifstream in(std::string(VEXLO_FIXTURES_DIR) + "/" + relative, std::ios::binary);
-    return ByteVec(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-inline void WriteBytes(const std::string& path, const ByteVec& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
-
-inline ByteVec ReadBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return ByteVec(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-inline std::uint32_t U32At(const ByteVec& b, std::size_t at) {
-    return static_cast<std::uint32_t>(b[at]) | (static_cast<std::uint32_t>(b[at + 1]) << 8) |
-           (static_cast<std::uint32_t>(b[at + 2]) << 16) | (static_cast<std::uint32_t>(b[at + 3]) << 24);
-}
-inline std::uint16_t U16At(const ByteVec& b, std::size_t at) {
-    return static_cast<std::uint16_t>(b[at] | (b[at + 1] << 8));
-}
+inline ByteVec LoadFixture(const std::string& relative) { return ReadBytes(vexlo::test::FixturePathOf(relative)); }
 inline void PatchU16(ByteVec& b, std::size_t at, std::uint16_t v) {
     b[at] = static_cast<std::uint8_t>(v & 0xFF);
     b[at + 1] = static_cast<std::uint8_t>(v >> 8);
