@@ -33,6 +33,25 @@ struct MultiIconAnswer {
     alpha::AlphaArray Alpha;
 };
 
+// What frmVexloAlpha is shown over: the main window's pictures, and IncomingAlpha, which the
+// dialog edits in place.
+struct AlphaEditorRequest {
+    const surface::Surface* PicIcon = nullptr;
+    const surface::Surface* Image = nullptr;
+    const surface::Surface* Mask = nullptr;
+    const surface::Surface* Grid = nullptr;
+    surface::Color GridColor = 0;
+    alpha::AlphaArray* Incoming = nullptr;
+};
+// Its answer: AlphaResult ("" or "1".."4") and AlphaFileSpec; for "1" the two planes that
+// replace the main window's.
+struct AlphaEditorAnswer {
+    std::string Result;
+    std::string FileSpec;
+    surface::Surface Image;
+    surface::Surface Mask;
+};
+
 class Host {
 public:
     virtual ~Host() = default;
@@ -54,6 +73,8 @@ public:
                                           const std::string& /*addDescription*/) {
         return {};
     }
+    // frmVexloAlpha, modal; without a platform it closes at once and answers nothing.
+    virtual AlphaEditorAnswer ShowAlphaEditor(const AlphaEditorRequest& /*request*/) { return {}; }
     // Loads a picture file (BMP, GIF, JPEG, PNG, ...) into out at its own size; false when the
     // platform can't read it.
     virtual bool LoadPicture(const std::string& /*path*/, surface::Surface& /*out*/) { return false; }

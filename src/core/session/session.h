@@ -261,6 +261,11 @@ private:
     void mnuFileSaveMultiIconAddTo();
     void mnuFileSaveAsCursor();
     void mnuFileSaveAsBitmap();
+    // View/Edit/Create Alpha Channel and what the editor's answer does (session_alpha.cpp).
+    void AlphaViewEditCreate();
+    void FlattenAlpha(const host::AlphaEditorAnswer& answer);
+    bool KeepEditedAlpha(const host::AlphaEditorAnswer& answer);
+    bool AskYesNo(const std::string& text);
     // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
     std::string AddToFileDialog(const std::string& path, int c, int bits);
     void ShowSetMessage(const std::string& text, MsgIcon icon);

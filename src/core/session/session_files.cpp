@@ -90,6 +90,8 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
         m_host.MsgBox(files::AlphaCopyFailedMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
         s.HasAlpha = false;
     }
+    // IncomingAlpha only hands values over: the slot keeps its own copy now.
+    m_panel.IncomingAlpha().SetSingle();
     s.MultiIconFile = multi;
     ShowIcon();
     // The file history takes the path once it exists.

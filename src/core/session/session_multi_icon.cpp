@@ -75,6 +75,7 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     s.MultiIconIndex = static_cast<std::int16_t>(index);
     s.ClearFileState();
     if (EnsureAlphaArray() && s.HasAlpha) CopyIncomingAlphaToSlot();
+    m_panel.IncomingAlpha().SetSingle();
     if (openIt) {
         s.InEditingArea = true;
         tools::CopyPicture(m_icon.ImageTemp(), m_icon.Image());

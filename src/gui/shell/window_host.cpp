@@ -14,6 +14,7 @@
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
+#include "gui/alpha/frm_vexlo_alpha.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
@@ -65,6 +66,10 @@ host::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int
     // The dialog asks its questions through this host.
     return gui::frmVexloMultiIcon::Run(*this, QApplication::activeWindow(), fileSpec, addMode, iconToAdd,
                                        addDescription);
+}
+
+host::AlphaEditorAnswer WindowHost::ShowAlphaEditor(const host::AlphaEditorRequest& request) {
+    return gui::frmVexloAlpha::Run(*this, request, QApplication::activeWindow());
 }
 
 bool WindowHost::ClipboardHasBitmap() {

@@ -36,6 +36,7 @@ public:
     host::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
                                          const surface::Surface* iconToAdd,
                                          const std::string& addDescription) override;
+    host::AlphaEditorAnswer ShowAlphaEditor(const host::AlphaEditorRequest& request) override;
 
     std::string ShowOpen(const utilities::OpenRequest& request) override;
     std::string ShowSave(const utilities::SaveRequest& request) override;
