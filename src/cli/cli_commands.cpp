@@ -29,6 +29,7 @@ constexpr const char* kUsage =
     "                                 a 16x16, 32x32 or 48x48 PNG, BMP or ICO picture\n"
     "                                 saved as the editor saves it\n"
     "  alpha FILE INDEX               the alpha bytes of a 32-bit image, rows from the top\n"
+    "  thumbnail IN OUT.png [SIZE]    the largest image as a PNG of at most SIZE pixels\n"
     "  split FILE OUTDIR              every listed image of a multi-icon file as a\n"
     "                                 single-icon file, bytes unchanged\n"
     "  ani OUT.ani [--jiffies J,...] [--hotspot X,Y] FRAME...\n"
@@ -96,6 +97,15 @@ constexpr const char* kAlphaHelp =
     "editor keeps them: one line per row, the top row first, each byte as two hex digits\n"
     "separated by blanks. Only a 32-bit image stores alpha bytes; any other image, a PNG\n"
     "image among them, is refused, as is an image that 'info' cannot read whole.\n";
+
+constexpr const char* kThumbnailHelp =
+    "usage: vexlo-cli thumbnail IN OUT.png [SIZE]\n"
+    "Writes the picture a file manager shows for an icon, cursor or animated cursor file: its\n"
+    "largest image (the deepest of one size; of an animated cursor, of the first frame) as an\n"
+    "RGBA PNG that fits SIZE x SIZE pixels (default 128, at most 1024). A smaller image is\n"
+    "enlarged by a whole factor, pixel by pixel; a larger one is reduced. Images that cannot\n"
+    "be read whole are passed over; a file with none, or one that takes more than two\n"
+    "seconds, gives exit status 1.\n";
 
 constexpr const char* kSplitHelp =
     "usage: vexlo-cli split FILE OUTDIR\n"
@@ -188,7 +198,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
     static const Entry kCommands[] = {{"probe", kProbeHelp}, {"info", kInfoHelp},
                                       {"export", kExportHelp}, {"convert", kConvertHelp},
                                       {"split", kSplitHelp}, {"ani", kAniHelp},
-                                      {"alpha", kAlphaHelp}};
+                                      {"alpha", kAlphaHelp}, {"thumbnail", kThumbnailHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -201,6 +211,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
         if (command == "split") return Split(rest, out, err);
         if (command == "ani") return AniBuild(rest, err);
         if (command == "alpha") return Alpha(rest, out, err);
+        if (command == "thumbnail") return Thumbnail(rest, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");
