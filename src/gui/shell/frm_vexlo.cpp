@@ -25,6 +25,7 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     setWindowTitle("Vexlo");
     // The layout is fixed: nothing to gain from a larger window.
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    setAcceptDrops(true);
     m_host.SetRefreshDisplay([this] {
         if (picDisp) picDisp->update();
     });

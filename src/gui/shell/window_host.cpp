@@ -87,6 +87,11 @@ clsVexloDialog& WindowHost::Dialog() {
 }
 
 std::string WindowHost::ShowOpen(const utilities::OpenRequest& request) {
+    if (m_nextOpen) {
+        std::string path = std::move(*m_nextOpen);
+        m_nextOpen.reset();
+        return path;
+    }
     return Dialog().ShowOpen(request);
 }
 

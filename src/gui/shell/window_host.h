@@ -4,6 +4,7 @@
 // folder dialog (each replaceable through platform/dialog_handlers.h).
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/host/host.h"
@@ -47,6 +48,11 @@ public:
     // not extendable. The folder chosen, or "".
     std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
 
+    // The next open dialog is not shown: it answers path at once, as for a file dropped on the
+    // window. ClearNextOpen drops an answer that no dialog took.
+    void AnswerNextOpen(std::string path) { m_nextOpen = std::move(path); }
+    void ClearNextOpen() { m_nextOpen.reset(); }
+
     // What RefreshDisplay calls; set by the window that shows the Editing Area.
     void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
     int HourglassDepth() const { return m_hourglassDepth; }
@@ -57,6 +63,7 @@ private:
     int m_hourglassDepth = 0;
     std::function<void()> m_refresh;
     std::unique_ptr<clsVexloDialog> m_dialog;
+    std::optional<std::string> m_nextOpen;
 };
 
 }  // namespace vexlo::gui
