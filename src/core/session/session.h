@@ -10,6 +10,7 @@
 // about widgets.
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,7 @@
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
+#include "core/session/settings/file_history_menu.h"
 #include "core/tools/tool_state.h"
 #include "core/tools/tool_strategy.h"
 
@@ -56,6 +58,13 @@ struct Directories {
     std::string DesktopFolder;
     std::string SystemFolder;
     std::string LastFolder;
+    // Where the settings file lives, ending with its separator; empty: no settings file.
+    std::string ConfigDir;
+};
+
+struct WindowPos {
+    int Left = 0;
+    int Top = 0;
 };
 
 // What the first activation did with the command line.
@@ -77,6 +86,7 @@ public:
     const ShadesState& Shades() const { return m_effects.Shades(); }
     const AniSession& Ani() const { return m_ani; }
     const FormState& Form() const { return m_form; }
+    const FileHistoryMenu& FileHistory() const { return m_fileHistory; }
 
     // The records are plain data; whoever changes one keeps its slot's pictures in step.
     IconSlot& SlotRecord(int k) { return m_panel.Slot(k); }
@@ -204,6 +214,23 @@ public:
     void ShowProgress(int percent, bool withNumber);
     void PointerOverForm();
 
+    // --- Settings and the file history (session_settings.cpp) ------------------------------
+    // The settings file's path, built afresh; empty when there is no settings folder.
+    std::string SettingsPath() const;
+    void ReadOptions();
+    // Writes each option whose stored value differs.
+    void WriteOptions();
+    // The stored folder if it still exists, else "".
+    std::string ReadLastFolder() const;
+    void WriteLastFolder(const std::string& folder);
+    // The stored place of the window in pixels (stored in twips); none when not stored.
+    std::optional<WindowPos> ReadScreenPos() const;
+    void WriteScreenPos(int left, int top);
+    void RefreshFileHistory();
+    void AddToFileHistory(const std::string& path);
+    // A click on mnuFileHistory(k), k from 1.
+    void ClickFileHistory(int k);
+
     // --- Icon files (session_files.cpp) -----------------------------------------------------
     // Puts an icon file into the current slot; true if the slot was filled.
     bool LoadIconFile(const std::string& path, bool askForImage);
@@ -213,7 +240,7 @@ public:
     bool SaveDialogFlow(int kind);
     std::string SuggestedSaveName() const;
     // What a save of the current slot writes with: alpha and true color as the slot says.
-    files::IconWriteOptions WriteOptions() const;
+    files::IconWriteOptions IconSaveOptions() const;
 
     // --- Multi-icon files, cursors, bitmaps (session_multi_icon.cpp, session_cursor_bitmap.cpp)
     // frmVexloMultiIcon chooses an image of path; openIt puts it in the Editing Area, else it
@@ -315,6 +342,7 @@ private:
     AniSession m_ani;
     IconsListSession m_list;
     FormState m_form;
+    FileHistoryMenu m_fileHistory;
     tools::DrawState m_draw;
     std::array<Surface, 3> m_charts;
     Color m_selectedColor = kWhite;
@@ -335,10 +363,6 @@ std::string CommandLinePath(const std::string& commandLine);
 // The last three characters upper-cased: "ICO", "CUR", "ANI" or anything else.
 std::string UpperExtension3(const std::string& path);
 
-struct WindowPos {
-    int Left = 0;
-    int Top = 0;
-};
 // Where the window goes on a screen of the given size; stored is null when none was stored.
 WindowPos PlaceWindow(int screenWidth, int screenHeight, int windowWidth, int windowHeight,
                       const WindowPos* stored);

@@ -86,7 +86,7 @@ void Session::FlattenAlpha(const host::AlphaEditorAnswer& answer) {
         StoreToPanel();
         ShowIcon();
     }
-    // The file history takes the path once it exists.
+    AddToFileHistory(answer.FileSpec);
 }
 
 bool Session::KeepEditedAlpha(const host::AlphaEditorAnswer& answer) {
@@ -121,8 +121,7 @@ bool Session::KeepEditedAlpha(const host::AlphaEditorAnswer& answer) {
     s.MultiIconFile = false;
     s.MultiIconIndex = 0;
     s.ClearFileState();
-    SaveIconFile(answer.FileSpec, false);
-    // The file history takes the path once it exists.
+    if (SaveIconFile(answer.FileSpec, false)) AddToFileHistory(answer.FileSpec);
     return true;
 }
 

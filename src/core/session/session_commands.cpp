@@ -76,6 +76,7 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuFileSaveMultiIconAddTo", [](Session& s, int) { s.mnuFileSaveMultiIconAddTo(); }},
         {"mnuFileSaveAsCursor", [](Session& s, int) { s.mnuFileSaveAsCursor(); }},
         {"mnuFileSaveAsBitmap", [](Session& s, int) { s.mnuFileSaveAsBitmap(); }},
+        {"mnuFileHistory", [](Session& s, int i) { s.ClickFileHistory(i); }},
         {"mnuAlphaViewEditCreate", [](Session& s, int) { s.AlphaViewEditCreate(); }},
         {"mnuOptionsGridline", [](Session& s, int i) { s.ClickGridline(i); }},
         {"mnuOptionsDisplayMask", [](Session& s, int) { s.ClickDisplayMask(); }},

@@ -49,6 +49,14 @@ void FrmVexlo::SyncFromModel() {
     Item("mnuPaletteSub(1)")->setChecked(form.PaletteMode == 1);
     for (int i = 0; i < 6; ++i)
         Item("mnuBrushSize(" + std::to_string(i) + ")")->setChecked(form.BrushSizeIndex == i);
+    const session::FileHistoryMenu& history = m_session.FileHistory();
+    for (int i = 0; i <= session::kHistoryEntries; ++i) {
+        QAction* entry = Item("mnuFileHistory(" + std::to_string(i) + ")");
+        const auto k = static_cast<std::size_t>(i);
+        if (i > 0) entry->setText(QString::fromStdString(history.Caption[k]));
+        entry->setVisible(history.Visible[k]);
+        entry->setEnabled(history.Enabled[k]);
+    }
     for (int k = 0; k < session::kToolbarCommands; ++k)
         if (!session::ToolbarButtonFixed(k))
             cmdTB[static_cast<std::size_t>(k)]->setEnabled(
