@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "gui/platform/picture_frame.h"
 #include "gui/platform/surface_view.h"
 
 namespace vexlo::gui {
@@ -23,12 +24,7 @@ constexpr int kWidth = kColumnX + kColumnWidth + kMargin;
 constexpr int kHeight = kMargin + kDispSide + 34;
 
 QWidget* SunkenBox(QWidget* parent, int x, int y, int w, int h) {
-    auto* box = new QLabel(parent);
-    box->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    box->setAutoFillBackground(true);
-    QPalette pal = box->palette();
-    pal.setColor(QPalette::Window, QColor(0xC0, 0xC0, 0xC0));
-    box->setPalette(pal);
+    QLabel* box = MakePictureFrame(parent);
     box->setGeometry(x, y, w, h);
     return box;
 }
