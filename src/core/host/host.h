@@ -52,6 +52,14 @@ struct AlphaEditorAnswer {
     surface::Surface Mask;
 };
 
+// The clipboard's picture as known without reading its pixels.
+struct ClipboardPicture {
+    bool Present = false;   // the clipboard holds a picture
+    int Width = 0;          // 0 when its size can't be read
+    int Height = 0;
+    bool TooLarge = false;  // larger than the platform reads at all
+};
+
 class Host {
 public:
     virtual ~Host() = default;
@@ -84,6 +92,17 @@ public:
 
     // Whether the clipboard holds a bitmap.
     virtual bool ClipboardHasBitmap() { return false; }
+    // The clipboard's picture by its size; no pixel of it is read yet.
+    virtual ClipboardPicture ClipboardPictureInfo() { return {}; }
+    // The top left w x h pixels of the clipboard's picture into out, its transparent pixels in
+    // the transparent gray 0xC0C0C0. False when there is no picture or it can't be read.
+    virtual bool ReadClipboardPicture(int /*w*/, int /*h*/, surface::Surface& /*out*/) { return false; }
+    // Empties the clipboard and puts the picture on it. The pixels that are white in holes (of
+    // the picture's size) go out transparent where the format carries transparency.
+    virtual void SetClipboardPicture(const surface::Surface& /*picture*/,
+                                     const surface::Surface& /*holes*/) {}
+    // Empties the clipboard.
+    virtual void ClearClipboard() {}
 
     // The common dialogs (clsVexloDialog) and the folder dialog. A cancelled dialog answers
     // an empty string, -1 or false, and nothing else. Without a platform, every dialog is

@@ -5,6 +5,7 @@
 //   IconsPanel        the six slots, their records, alpha values and panel pictures
 //   EditingView       picDisp, the grid, the zoom, the Region's marks and the rubber band
 //   EffectsPanels     what the effect frames keep while they are up
+//   FloatingRegion, ShiftPad   the floating Region; Shift Directions and its pad
 //   AniSession, IconsListSession   the animated cursor session and the Icons List
 // The window redraws itself from the parts' pictures and the FormState; nothing here knows
 // about widgets.
@@ -26,7 +27,10 @@
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
+#include "core/session/region/floating_region.h"
+#include "core/session/region/region_tool_view.h"
 #include "core/session/settings/file_history_menu.h"
+#include "core/session/shift_pad/shift_pad.h"
 #include "core/tools/tool_state.h"
 #include "core/tools/tool_strategy.h"
 
@@ -85,6 +89,8 @@ public:
     const EditingView& View() const { return m_view; }
     const ShadesState& Shades() const { return m_effects.Shades(); }
     const AniSession& Ani() const { return m_ani; }
+    const FloatingRegion& Floating() const { return m_floating; }
+    const ShiftPad& Shift() const { return m_shift; }
     const FormState& Form() const { return m_form; }
     const FileHistoryMenu& FileHistory() const { return m_fileHistory; }
 
@@ -265,6 +271,16 @@ public:
     // Says "No icon in Editing Area yet" and answers false when there is none.
     bool NeedsIconInArea();
 
+    // --- Region, clipboard, flips, Shift Directions (session_region, _clipboard, _transform) --
+    void ClickEditSub(int i);        // mnuEditSub(0..9)
+    void ClickRotateSubmenu(int i);  // mnuRotateSubmenu(0..3)
+    void LiftRegion(bool seeThrough);
+    void RedrawFloatingRegion();
+    // The top left w x h of picture as a floating Region at cell (x, y), the Region tool on.
+    void PlaceFloatingPicture(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
+    void NudgeRegion(int dx, int dy);      // an arrow key on a floating Region: one cell
+    void ReleaseOnShiftPad(int x, int y);  // a release on picShiftDir
+
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
     int RedoCount() const { return static_cast<int>(m_icon.RedoCount()); }
@@ -323,6 +339,14 @@ private:
     void RefreshDisplay() override;
     void ShowRegionMeasure();
     void ResetRegionState();
+    // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
+    friend class RegionToolView;
+    tools::RegionContext& Region() override { return m_regionTool; }
+    void CutRegion(bool copyFirst);
+    void CopyToClipboard();
+    void PasteClipboard(bool seeThrough);
+    void PutNewIcon(int sizeCode);  // File New's empty icon of the size, shown
+    void TransformIcon(Surface (*transform)(const Surface&), bool quarterTurn);
     void CreateColorCharts();
     void RunShadesPreview();
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
@@ -339,6 +363,9 @@ private:
     IconsPanel m_panel;
     EditingView m_view;
     EffectsPanels m_effects;
+    FloatingRegion m_floating;
+    RegionToolView m_regionTool{*this};
+    ShiftPad m_shift;
     AniSession m_ani;
     IconsListSession m_list;
     FormState m_form;

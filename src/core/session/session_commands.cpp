@@ -104,12 +104,8 @@ bool Session::RunMenuItem(std::string_view name) {
              s.ClearTools();
              if (s.InArea()) s.host().NudgePointer();
          }},
-        {"mnuEditSub",
-         [](Session& s, int i) {
-             if (i == 0) s.UndoStep();
-             if (i == 1) s.UndoAll();
-             if (i == 2) s.RedoStep();
-         }},
+        {"mnuEditSub", [](Session& s, int i) { s.ClickEditSub(i); }},
+        {"mnuRotateSubmenu", [](Session& s, int i) { s.ClickRotateSubmenu(i); }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;

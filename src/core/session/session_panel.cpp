@@ -104,7 +104,11 @@ void Session::FileNew(int entry) {
         if (!aniStays) ShowFrame(Frame::ColorsPanel);
     }
     if (!GuardReplaceCurrent()) return;
+    PutNewIcon(kSizeOfEntry[entry]);
+    SelectPaintTool();
+}
 
+void Session::PutNewIcon(int sizeCode) {
     IconSlot& s = Current();
     s.Occupied = true;
     s.SetKindText(kKindNewIcon);
@@ -117,7 +121,6 @@ void Session::FileNew(int entry) {
     s.ClearFileState();
     EnsureAlphaArray();
 
-    const int sizeCode = kSizeOfEntry[entry];
     s.SizeCode = static_cast<std::int16_t>(sizeCode);
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
@@ -126,7 +129,6 @@ void Session::FileNew(int entry) {
     StoreToPanel();
     ComposeIcon();
     ShowIcon();
-    SelectPaintTool();
 }
 
 void Session::FileOpen(int entry) {

@@ -105,6 +105,8 @@ public:
     std::array<QPushButton*, 2> cmdShadesProceed{};
     // Inside fraSaveAsCursor.
     std::array<QComboBox*, 2> cboCursorHotSpot{};
+    // The Shift Directions pad.
+    SurfaceView* picShiftDir = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -134,6 +136,9 @@ private:
     void BuildSaveAsCursorFrame(QFrame* frame);
     void SyncSaveAsCursor();
     void SyncPointer();
+    // The Shift Directions pad with its caption at padAt, the keys of picDisp that move and
+    // erase a floating Region, and the toolbar following the clipboard (frm_vexlo_region.cpp).
+    void BuildRegionControls(QWidget* parent, QPoint padAt);
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);
     // The enable rules of one top menu, run as it drops down.

@@ -88,6 +88,7 @@ void FrmVexlo::BuildLayout() {
     picMask = new SurfaceView(&m_session.Icon().Mask(), m_form);
     picMask->setObjectName("picMask");
     LayOutIconAndMask();
+    BuildRegionControls(m_form, QPoint(kRightLeft + 140, kDispTop));
 
     for (int f = static_cast<int>(session::Frame::ColorsPanel);
          f <= static_cast<int>(session::Frame::ConfineToMono); ++f) {

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include "gui/platform/clipboard.h"
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
@@ -72,10 +73,19 @@ host::AlphaEditorAnswer WindowHost::ShowAlphaEditor(const host::AlphaEditorReque
     return gui::frmVexloAlpha::Run(*this, request, QApplication::activeWindow());
 }
 
-bool WindowHost::ClipboardHasBitmap() {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage();
+bool WindowHost::ClipboardHasBitmap() { return ClipboardHasPicture(); }
+
+host::ClipboardPicture WindowHost::ClipboardPictureInfo() { return platform::ClipboardPictureInfo(); }
+
+bool WindowHost::ReadClipboardPicture(int w, int h, surface::Surface& out) {
+    return platform::ReadClipboardPicture(w, h, out);
 }
+
+void WindowHost::SetClipboardPicture(const surface::Surface& picture, const surface::Surface& holes) {
+    PutPictureOnClipboard(picture, holes);
+}
+
+void WindowHost::ClearClipboard() { platform::ClearClipboard(); }
 
 void WindowHost::RefreshDisplay() {
     if (m_refresh) m_refresh();

@@ -32,6 +32,11 @@ public:
     // stands at 0) and back, so that the widget under it updates its pointer shape.
     void NudgePointer() override;
     bool ClipboardHasBitmap() override;
+    // The clipboard's pictures through platform/clipboard.h.
+    host::ClipboardPicture ClipboardPictureInfo() override;
+    bool ReadClipboardPicture(int w, int h, surface::Surface& out) override;
+    void SetClipboardPicture(const surface::Surface& picture, const surface::Surface& holes) override;
+    void ClearClipboard() override;
     // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
     bool LoadPicture(const std::string& path, surface::Surface& out) override;
     host::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
