@@ -27,6 +27,7 @@
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
+#include "core/session/session_basics.h"
 #include "core/session/region/floating_region.h"
 #include "core/session/region/region_tool_view.h"
 #include "core/session/settings/file_history_menu.h"
@@ -50,29 +51,6 @@ using icon::kBlack;
 using icon::kTransparentGray;
 using icon::kWhite;
 using icon::kWindowColor;
-
-inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
-
-// Directories that the entry point finds; TempDir ends with its separator.
-struct Directories {
-    std::string WindowsDir;
-    std::string SystemDir;
-    std::string TempDir;
-    std::string ProgramDir;
-    std::string DesktopFolder;
-    std::string SystemFolder;
-    std::string LastFolder;
-    // Where the settings file lives, ending with its separator; empty: no settings file.
-    std::string ConfigDir;
-};
-
-struct WindowPos {
-    int Left = 0;
-    int Top = 0;
-};
-
-// What the first activation did with the command line.
-enum class CommandLineResult { Empty, NotFound, Ignored, Loaded, LoadFailed };
 
 class Session : private tools::ToolContext {
 public:
@@ -380,18 +358,5 @@ private:
     bool m_quitAtActivation = false;
     int m_pendingEventsDepth = 0;
 };
-
-// The three lines of the refusal of a second instance.
-std::string SecondInstanceText();
-// The question for a screen below 800x600.
-std::string SmallScreenQuestion(int width, int height);
-// The command line with every double quote removed.
-std::string CommandLinePath(const std::string& commandLine);
-// The last three characters upper-cased: "ICO", "CUR", "ANI" or anything else.
-std::string UpperExtension3(const std::string& path);
-
-// Where the window goes on a screen of the given size; stored is null when none was stored.
-WindowPos PlaceWindow(int screenWidth, int screenHeight, int windowWidth, int windowHeight,
-                      const WindowPos* stored);
 
 }  // namespace vexlo::session
