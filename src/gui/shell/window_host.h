@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/host/host.h"
 
@@ -45,6 +46,11 @@ public:
     // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
     // not extendable. The folder chosen, or "".
     std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+    // Text through Qt without smoothing (platform/text_drawing.h).
+    std::vector<std::string> ScreenFonts() override;
+    std::string FontFamilyUsed(const std::string& name) override;
+    bool DrawText(const host::TextFont& font, const std::string& text, bool hollow,
+                  surface::Color color, surface::Color back, surface::Surface& out) override;
 
     // What RefreshDisplay calls; set by the window that shows the Editing Area.
     void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
