@@ -4,6 +4,7 @@
 // records its text, so that no flow ever waits on a real dialog.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/alpha/alpha_array.h"
 #include "core/surface/surface.h"
@@ -58,6 +59,14 @@ struct ClipboardPicture {
     int Width = 0;          // 0 when its size can't be read
     int Height = 0;
     bool TooLarge = false;  // larger than the platform reads at all
+};
+
+// A font as the Text effect asks for it: a family, a size in points, bold and italic.
+struct TextFont {
+    std::string Name;
+    int Size = 8;
+    bool Bold = false;
+    bool Italic = false;
 };
 
 class Host {
@@ -118,6 +127,21 @@ public:
     virtual std::string GetFolderSpec(const std::string& /*pattern*/,
                                       const std::string& /*startFolder*/) {
         return {};
+    }
+
+    // The screen fonts' families, in the order the font list shows them; none without a
+    // platform.
+    virtual std::vector<std::string> ScreenFonts() { return {}; }
+    // The family that the platform really uses when asked for name; empty when it has none.
+    virtual std::string FontFamilyUsed(const std::string& /*name*/) { return {}; }
+    // One line of text drawn without smoothing: out becomes a picture of the text's width and
+    // height plus 2, filled with back, with the text at (1, 1) in color, its glyphs filled or,
+    // when hollow, their outlines stroked one pixel wide. False, with out untouched, when the
+    // platform can't draw text.
+    virtual bool DrawText(const TextFont& /*font*/, const std::string& /*text*/, bool /*hollow*/,
+                          surface::Color /*color*/, surface::Color /*back*/,
+                          surface::Surface& /*out*/) {
+        return false;
     }
 };
 

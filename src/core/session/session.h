@@ -66,6 +66,7 @@ public:
     const IconsPanel& Panel() const { return m_panel; }
     const EditingView& View() const { return m_view; }
     const ShadesState& Shades() const { return m_effects.Shades(); }
+    const EffectsPanels& Effects() const { return m_effects; }
     const AniSession& Ani() const { return m_ani; }
     const FloatingRegion& Floating() const { return m_floating; }
     const ShiftPad& Shift() const { return m_shift; }
@@ -185,6 +186,32 @@ public:
     void CastComboClicked(int element, int listIndex);
     void ShadesProceed();   // cmdShadesProceed(0)
     void ShadesRestore();   // cmdShadesProceed(1)
+
+    // --- Buttonize and Adjust Painted Colors (session_buttonize.cpp, session_adjust_colors.cpp)
+    void ClickButtonizePattern(int index);  // cboButtonizePattern, picButtonize(index)
+    void ButtonizeProceed();                // cmdButtonizeProceed
+    void ClickEffectsAdjustPaintedColors();  // mnuEffectsAdjustPaintedColors
+    void ClickBrightnessAdj(int listIndex);  // cboBrightNessAdj
+    void ClickColorAdj(int element, int listIndex);  // cboColorAdj(element)
+    void AdjustColorsProceed(int index);     // cmdAdjustColorsProceed(0 Proceed, 1 Restore)
+
+    // --- Text (session_text.cpp) -------------------------------------------------------------
+    void ClickEffectsText();  // mnuEffectsText
+    void SetWriteText(const std::string& text);  // txbWriteText
+    void ClickTextWriteStyle(int index);
+    void ClickFontName(int index);
+    void ClickFontSize(int index);
+    void ClickFontStyle(int i);  // imgFontStyle(0 Bold, 1 Italic)
+    void ClickTextColor();
+    void TextAngleChanged(int value);  // HsbTextWriteSampleAngle
+    void AddTextProceed();             // cmdAddTextProceed
+
+    // --- Rotate at any angle (session_rotate_angle.cpp) -------------------------------------
+    void ClickRotateSelectAngle();  // mnuRotateSubmenu(4)
+    void RotateAngleSliderChanged(int value);  // hsrRotateAngle
+    void ClickRotateAngleList(int listIndex);  // cboRotateAngle
+    void ClickRotateAntiAlias(bool checked);   // ckbRotateAntiAlias
+    void RotateSelectAngleProceed();           // cmdRotateSelectAngleProceed
 
     // --- Status bar (session_status.cpp) ----------------------------------------------------
     // A fresh icon in the Editing Area: tools cleared, progress hidden, the status panels
@@ -327,6 +354,13 @@ private:
     void TransformIcon(Surface (*transform)(const Surface&), bool quarterTurn);
     void CreateColorCharts();
     void RunShadesPreview();
+    void OpenButtonize();
+    // The text picture handed over as the floating Region at the icon's top left, and what a
+    // press and a drag with the Region tool do to it (session_floating_text.cpp).
+    void HandOverTextRegion(const Surface& picture);
+    void RedrawFloatingText();
+    bool FloatingTextPressed(const tools::ToolEvent& e);
+    bool FloatingTextMoved(const tools::ToolEvent& e);
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);

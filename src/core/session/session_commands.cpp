@@ -86,6 +86,9 @@ bool Session::RunMenuItem(std::string_view name) {
          [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
         {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
+        {"mnuEffectsText", [](Session& s, int) { s.ClickEffectsText(); }},
+        {"mnuEffectsAdjustPaintedColors",
+         [](Session& s, int) { s.ClickEffectsAdjustPaintedColors(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {

@@ -1,5 +1,6 @@
 // The Rotate menu's flips and quarter turns, on the floating Region if there is one and else
-// on the whole icon, and Shift Directions, which slides the whole icon with its pad.
+// on the whole icon, Rotate At Any Selected Angle (its frame), and Shift Directions, which
+// slides the whole icon with its pad.
 #include "core/session/session.h"
 #include "core/transform/flip_rotate.h"
 
@@ -11,6 +12,10 @@ void Session::ClickRotateSubmenu(int i) {
     static constexpr Surface (*kTransforms[4])(const Surface&) = {
         &transform::FlippedHorizontal, &transform::FlippedVertical, &transform::RotatedLeft,
         &transform::RotatedRight};
+    if (i == 4) {
+        ClickRotateSelectAngle();
+        return;
+    }
     if (i < 0 || i > 3) return;
     if (!NeedsIconInArea()) return;
     TransformIcon(kTransforms[i], i >= 2);

@@ -26,6 +26,10 @@ namespace vexlo::gui {
 
 class ElidedLabel;
 class SurfaceView;
+class ButtonizeFrame;
+class AdjustColorsFrame;
+class TextFrame;
+class RotateAngleFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -107,6 +111,11 @@ public:
     std::array<QComboBox*, 2> cboCursorHotSpot{};
     // The Shift Directions pad.
     SurfaceView* picShiftDir = nullptr;
+    // fraButtonize, fraAdjustPaintedColors, fraText, fraRotateSelectAngle and their controls.
+    ButtonizeFrame* fraButtonize = nullptr;
+    AdjustColorsFrame* fraAdjustPaintedColors = nullptr;
+    TextFrame* fraText = nullptr;
+    RotateAngleFrame* fraRotateSelectAngle = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

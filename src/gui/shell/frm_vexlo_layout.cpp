@@ -7,6 +7,10 @@
 #include <QStatusBar>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/effects/frm_vexlo_adjust_colors.h"
+#include "gui/effects/frm_vexlo_buttonize.h"
+#include "gui/effects/frm_vexlo_rotate_angle.h"
+#include "gui/effects/frm_vexlo_text.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -57,7 +61,7 @@ QPixmap AlphaPicture() {
 
 const char* const kFrameCaptions[] = {
     "", "Colors", "Gradient", "Print", "Save As Cursor", "Search EXE Files", "Text", "Icons List",
-    "Adjust Painted Colors", "Buttonize", "Rotate", "Effects", "Confine To Mono"};
+    "Adjust painted colors", "Buttonize", "Rotate image (-359 to +359)", "Effects", "Confine To Mono"};
 
 }  // namespace
 
@@ -109,6 +113,10 @@ void FrmVexlo::BuildLayout() {
     BuildColorsPanel(Frames[session::Frame::ColorsPanel]);
     BuildShadesFrame(Frames[session::Frame::EffectsShades]);
     BuildSaveAsCursorFrame(Frames[session::Frame::SaveAsCursor]);
+    fraButtonize = new ButtonizeFrame(*this, Frames[session::Frame::Buttonize]);
+    fraAdjustPaintedColors = new AdjustColorsFrame(*this, Frames[session::Frame::AdjustPaintedColors]);
+    fraText = new TextFrame(*this, Frames[session::Frame::Text]);
+    fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -5,6 +5,10 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/effects/frm_vexlo_adjust_colors.h"
+#include "gui/effects/frm_vexlo_buttonize.h"
+#include "gui/effects/frm_vexlo_rotate_angle.h"
+#include "gui/effects/frm_vexlo_text.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -66,6 +70,10 @@ void FrmVexlo::SyncFromModel() {
     SyncColorsPanel();
     SyncShades();
     SyncSaveAsCursor();
+    fraButtonize->Sync();
+    fraAdjustPaintedColors->Sync();
+    fraText->Sync();
+    fraRotateSelectAngle->Sync();
     SyncStatus();
 }
 

@@ -16,6 +16,7 @@
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
 #include "gui/alpha/frm_vexlo_alpha.h"
+#include "gui/platform/text_drawing.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
@@ -128,6 +129,17 @@ std::string WindowHost::GetFolderSpec(const std::string& pattern, const std::str
     const QString start = QString::fromStdString(startFolder);
     if (!start.isEmpty() && QFileInfo(start).isDir()) QDir::setCurrent(start);
     return gui::frmDirDialog::Ask(pattern, std::string(), false, QApplication::activeWindow());
+}
+
+std::vector<std::string> WindowHost::ScreenFonts() { return platform::ScreenFontFamilies(); }
+
+std::string WindowHost::FontFamilyUsed(const std::string& name) {
+    return platform::FontFamilyUsed(name);
+}
+
+bool WindowHost::DrawText(const host::TextFont& font, const std::string& text, bool hollow,
+                          surface::Color color, surface::Color back, surface::Surface& out) {
+    return platform::DrawTextPicture(font, text, hollow, color, back, out);
 }
 
 }  // namespace vexlo::gui

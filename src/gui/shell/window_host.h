@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/host/host.h"
 
@@ -52,6 +53,11 @@ public:
     // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
     // not extendable. The folder chosen, or "".
     std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+    // Text through Qt without smoothing (platform/text_drawing.h).
+    std::vector<std::string> ScreenFonts() override;
+    std::string FontFamilyUsed(const std::string& name) override;
+    bool DrawText(const host::TextFont& font, const std::string& text, bool hollow,
+                  surface::Color color, surface::Color back, surface::Surface& out) override;
 
     // The next open dialog is not shown: it answers path at once, as for a file dropped on the
     // window. ClearNextOpen drops an answer that no dialog took.
