@@ -175,20 +175,19 @@ TEST_F(EffectFramesWindowTest, TextAtThirtyDegreesFloatsAndMoves) {
     EXPECT_EQ(f.lblTextAngle->text(), QString::fromUtf8("30\u00B0  degrees"));
     EXPECT_TRUE(f.lblTextSample->font().bold());
     f.cmdAddTextProceed->click();
-    const auto& floating = S().Effects().Text().Floating();
-    ASSERT_TRUE(floating.Active());
+    ASSERT_TRUE(S().View().Region().Exists);
     EXPECT_EQ(S().Form().SelectedTool, tools::Tool::Region);
     // Drawn twice, the same text gives the same picture.
-    const Surface first = floating.Picture();
+    const Surface first = S().Floating().Image();
     f.cmdAddTextProceed->click();
-    EXPECT_TRUE(SamePixels(floating.Picture(), first));
+    EXPECT_TRUE(SamePixels(S().Floating().Image(), first));
     Shot("text_frame_30_degrees");
     // Dragged by the pointer three cells right and four down.
     QTest::mousePress(window->picDisp, Qt::LeftButton, {}, QPoint(18, 18));
     QTest::mouseMove(window->picDisp, QPoint(18 + 36, 18 + 48));
     QTest::mouseRelease(window->picDisp, Qt::LeftButton, {}, QPoint(18 + 36, 18 + 48));
-    EXPECT_EQ(floating.Left(), 3);
-    EXPECT_EQ(floating.Top(), 4);
+    EXPECT_EQ(S().View().Region().Cells.Left, 3);
+    EXPECT_EQ(S().View().Region().Cells.Top, 4);
     Shot("text_moved");
 }
 

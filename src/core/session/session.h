@@ -355,12 +355,11 @@ private:
     void CreateColorCharts();
     void RunShadesPreview();
     void OpenButtonize();
-    // The text picture handed over as the floating Region at the icon's top left, and what a
-    // press and a drag with the Region tool do to it (session_floating_text.cpp).
+    // The placed text handed over as a see-through floating Region at the icon's top left,
+    // with the Region tool selected and the Text frame left up (session_region.cpp).
     void HandOverTextRegion(const Surface& picture);
-    void RedrawFloatingText();
-    bool FloatingTextPressed(const tools::ToolEvent& e);
-    bool FloatingTextMoved(const tools::ToolEvent& e);
+    // The picture floating at cell (x, y) over the planes as they stand.
+    void FloatPictureAt(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);

@@ -62,6 +62,17 @@ void Session::PlaceFloatingPicture(const Surface& picture, int w, int h, bool se
     ResetDrawState();
     ClearTools();
     ClickTool(Tool::Region);
+    FloatPictureAt(picture, w, h, seeThrough, x, y);
+}
+
+void Session::HandOverTextRegion(const Surface& picture) {
+    ClearTools();
+    ResetDrawState();
+    m_form.SelectedTool = Tool::Region;  // unlike a click on the tool, the frame stays up
+    FloatPictureAt(picture, picture.Width(), picture.Height(), true, 0, 0);
+}
+
+void Session::FloatPictureAt(const Surface& picture, int w, int h, bool seeThrough, int x, int y) {
     m_draw.RegionReworked = true;
     RegionMarks& marks = m_view.Region();
     const int step = m_view.MagnifyStep();

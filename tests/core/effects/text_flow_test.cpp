@@ -60,7 +60,9 @@ protected:
     // The middle of a cell in picDisp pixels.
     static int At(int cell) { return cell * 12 + 6; }
     const session::TextState& Text() const { return s.Effects().Text().State(); }
-    const session::FloatingText& Floating() const { return s.Effects().Text().Floating(); }
+    // The floating Region the text was handed over as.
+    bool Floats() const { return s.View().Region().Exists; }
+    const tools::CellRect& Cells() const { return s.View().Region().Cells; }
 
     BlockFontHost host;
     session::Session s{host};
@@ -133,9 +135,9 @@ TEST_F(TextFlowTest, ProceedFloatsTheTextAtTheTopLeftAndTakesASnapshot) {
     EXPECT_EQ(s.Form().VisibleFrame, Frame::Text);  // the frame stays up
     EXPECT_EQ(s.Form().SelectedTool, tools::Tool::Region);
     EXPECT_TRUE(s.View().Region().Exists);
-    EXPECT_TRUE(Floating().Active());
-    EXPECT_EQ(Floating().Width(), 7);  // two blocks and the gap, no margin
-    EXPECT_EQ(Floating().Height(), 5);
+    EXPECT_TRUE(Floats());
+    EXPECT_EQ(Cells().Right - Cells().Left + 1, 7);  // the cells of both edges count  // two blocks and the gap, no margin
+    EXPECT_EQ(Cells().Bottom - Cells().Top + 1, 5);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), kRed);
@@ -150,8 +152,8 @@ TEST_F(TextFlowTest, ADragMovesTheTextAndAPressOutsideDropsIt) {
     s.PointerPressed(session::Session::Button::Left, At(1), At(1));
     s.PointerMoved(At(11), At(21), false);
     s.PointerReleased(At(11), At(21), false);
-    EXPECT_EQ(Floating().Left(), 10);
-    EXPECT_EQ(Floating().Top(), 20);
+    EXPECT_EQ(Cells().Left, 10);
+    EXPECT_EQ(Cells().Top, 20);
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), kGreen);  // what lay under it is back
     EXPECT_EQ(s.Icon().Image().GetPixel(10, 20), kRed);
     EXPECT_EQ(s.Icon().Image().GetPixel(12, 24), kRed);
@@ -159,7 +161,7 @@ TEST_F(TextFlowTest, ADragMovesTheTextAndAPressOutsideDropsIt) {
     EXPECT_EQ(s.UndoCount(), undo);  // nothing is final yet
 
     s.PointerPressed(session::Session::Button::Left, At(30), At(2));
-    EXPECT_FALSE(Floating().Active());
+    EXPECT_FALSE(Floats());
     EXPECT_FALSE(s.View().Region().Exists);
     EXPECT_EQ(s.Form().SelectedTool, tools::Tool::Region);
     EXPECT_EQ(s.UndoCount(), undo + 1);
@@ -171,7 +173,7 @@ TEST_F(TextFlowTest, AnotherToolDropsTheTextWhereItStands) {
     s.AddTextProceed();
     s.ClickTool(tools::Tool::Paint);
     s.PointerPressed(session::Session::Button::Left, At(1), At(1));
-    EXPECT_FALSE(Floating().Active());
+    EXPECT_FALSE(Floats());
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), kRed);
 }
 
@@ -188,7 +190,7 @@ TEST_F(TextFlowTest, WithoutScreenFontsProceedSaysSo) {
     t.AddTextProceed();
     ASSERT_EQ(bare.shown.size(), 1u);
     EXPECT_EQ(bare.shown[0].text, "No screen font available in system.");
-    EXPECT_FALSE(t.Effects().Text().Floating().Active());
+    EXPECT_FALSE(t.View().Region().Exists);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 
 #include "core/effects/text_effect.h"
 #include "core/host/host.h"
-#include "core/session/effects_panels/floating_text.h"
 
 namespace vexlo::session {
 
@@ -35,8 +34,6 @@ struct TextState {
 class TextPanel {
 public:
     const TextState& State() const { return m_state; }
-    FloatingText& Floating() { return m_floating; }
-    const FloatingText& Floating() const { return m_floating; }
 
     // The font list, filled once from the platform's screen fonts.
     bool FontsLoaded() const { return m_fontsLoaded; }
@@ -64,7 +61,6 @@ public:
 private:
     TextState m_state;
     bool m_fontsLoaded = false;
-    FloatingText m_floating;
 };
 
 }  // namespace vexlo::session
