@@ -84,6 +84,11 @@ bool Session::RunMenuItem(std::string_view name) {
          [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
         {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
+        {"mnuEffectsGradientUnpaintedArea", [](Session& s, int) { s.mnuEffectsGradientUnpaintedArea(); }},
+        {"mnuEffectsExpand", [](Session& s, int) { s.ResizeIcon(true); }},
+        {"mnuEffectsShrink", [](Session& s, int) { s.ResizeIcon(false); }},
+        {"mnuEffectsConfineColorsTo16", [](Session& s, int) { s.mnuEffectsConfineColorsTo16(); }},
+        {"mnuEffectsConfineColorsTo2", [](Session& s, int) { s.mnuEffectsConfineColorsTo2(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "core/effects/shades.h"
+#include "core/session/effects_panels/confine_mono_panel.h"
+#include "core/session/effects_panels/gradient_panel.h"
 
 namespace vexlo::session {
 
@@ -23,6 +25,11 @@ struct ShadesState {
 class EffectsPanels {
 public:
     const ShadesState& Shades() const { return m_shades; }
+    // fraGradient and fraConfineToMono.
+    GradientPanel& Gradient() { return m_gradient; }
+    const GradientPanel& Gradient() const { return m_gradient; }
+    ConfineMonoPanel& ConfineMono() { return m_confineMono; }
+    const ConfineMonoPanel& ConfineMono() const { return m_confineMono; }
 
     // mnuEffectsSub(index): the shades frame set up for its effect; false for an index that
     // has no shades frame (the preview is then left to run).
@@ -43,6 +50,8 @@ public:
 
 private:
     ShadesState m_shades;
+    GradientPanel m_gradient;
+    ConfineMonoPanel m_confineMono;
 };
 
 }  // namespace vexlo::session
