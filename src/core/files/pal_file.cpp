@@ -30,13 +30,14 @@ std::array<std::uint32_t, 3> DefaultMasks(int bits) {
     return {0x00FF0000, 0x0000FF00, 0x000000FF};
 }
 
-// One component of a packed pixel, scaled from its mask's width to 0..255.
+// One component of a packed pixel brought to 8 bits as display drivers do: a narrower field
+// shifted up (so 5 bits of 31 give 248), a wider one cut to its top 8 bits.
 int Component(std::uint32_t pixel, std::uint32_t mask) {
     if (mask == 0) return 0;
     const int shift = std::countr_zero(mask);
-    const std::uint64_t max = mask >> shift;
-    const std::uint64_t v = (pixel & mask) >> shift;
-    return static_cast<int>((v * 255 + max / 2) / max);
+    const int width = std::bit_width(mask >> shift);
+    const std::uint32_t v = (pixel & mask) >> shift;
+    return static_cast<int>(width <= 8 ? (v << (8 - width)) & 0xFF : (v >> (width - 8)) & 0xFF);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 class QAction;
 class QCheckBox;
 class QPushButton;
+class QRadioButton;
 class QScrollBar;
 class QComboBox;
 class QGroupBox;
@@ -105,6 +106,23 @@ public:
     std::array<QPushButton*, 2> cmdShadesProceed{};
     // Inside fraSaveAsCursor.
     std::array<QComboBox*, 2> cboCursorHotSpot{};
+    // Inside fraGradient.
+    std::array<QRadioButton*, 3> OptGradType{};
+    std::array<SurfaceView*, 3> PicGradient{};
+    QComboBox* cboGradientAngle = nullptr;
+    std::array<QToolButton*, 2> cmdGradientColor{};
+    QLabel* lblNoUnpaintedArea = nullptr;
+    QPushButton* cmdGradientProceed = nullptr;
+    // Inside fraConfineToMono.
+    QComboBox* cboConfineToMonoThreshold = nullptr;
+    // Inside fraColorMixer.
+    std::array<QScrollBar*, 3> HsrRGB{};
+    std::array<QLabel*, 3> lblRGB{};
+    std::array<SurfaceView*, 3> PicRGB{};
+    SurfaceView* PicRGBMix = nullptr;
+    SurfaceView* picMixGradient = nullptr;
+    QFrame* ShapeMix = nullptr;
+    std::array<QToolButton*, 3> cmdAdjMix{};
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -129,6 +147,12 @@ private:
     void SyncShades();
     void BuildSaveAsCursorFrame(QFrame* frame);
     void SyncSaveAsCursor();
+    void BuildGradientFrame(QFrame* frame);  // gui/effects/frm_vexlo_gradient.cpp
+    void SyncGradient();
+    void BuildConfineToMonoFrame(QFrame* frame);  // gui/effects/frm_vexlo_confine_mono.cpp
+    void SyncConfineToMono();
+    void BuildColorMixer(QGroupBox* group);  // gui/color/frm_vexlo_mixer.cpp
+    void SyncColorMixer();
     void SyncPointer();
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);

@@ -108,6 +108,8 @@ void FrmVexlo::BuildLayout() {
     BuildColorsPanel(Frames[session::Frame::ColorsPanel]);
     BuildShadesFrame(Frames[session::Frame::EffectsShades]);
     BuildSaveAsCursorFrame(Frames[session::Frame::SaveAsCursor]);
+    BuildGradientFrame(Frames[session::Frame::Gradient]);
+    BuildConfineToMonoFrame(Frames[session::Frame::ConfineToMono]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

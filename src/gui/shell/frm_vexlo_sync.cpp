@@ -58,6 +58,8 @@ void FrmVexlo::SyncFromModel() {
     SyncColorsPanel();
     SyncShades();
     SyncSaveAsCursor();
+    SyncGradient();
+    SyncConfineToMono();
     SyncStatus();
 }
 

@@ -62,9 +62,8 @@ TEST(PaletteFile, SavedStripReadsBackAsA24BitBitmap) {
 
 TEST(PaletteFile, FilesOfOtherLayoutsRead) {
     const auto rgbOf = [](int x, int y) { return Rgb(2 * y, 5 * x, 255 - 2 * y); };
-    const auto scaled = [](int v, int bits) {  // a component kept in its top bits, read back
-        const int max = (1 << bits) - 1;
-        return ((v >> (8 - bits)) * 255 + max / 2) / max;
+    const auto scaled = [](int v, int bits) {  // only the top bits of a component are kept
+        return v >> (8 - bits) << (8 - bits);
     };
     const struct {
         const char* Name;
