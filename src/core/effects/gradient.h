@@ -3,6 +3,7 @@
 // Square, Spherical around a centre) and Proceed, which fills every unpainted cell of the icon
 // from the chosen picture and makes the whole icon opaque. The frame shows the pictures and
 // keeps the colors, the angle and the chosen kind; everything here is pure drawing.
+#include <string_view>
 #include <vector>
 
 #include "core/icon/icon_colors.h"
@@ -12,6 +13,20 @@ namespace vexlo::effects {
 
 using surface::Color;
 using surface::Surface;
+
+// The frame's texts.
+inline constexpr std::string_view kGradientCaption = "Gradient unpainted area";
+inline constexpr std::string_view kGradientTypeCaptions[3] = {"Linear", "Square", "Spherical"};
+inline constexpr std::string_view kGradientColorsCaption = "Starting && ending colors:";
+inline constexpr std::string_view kGradientCenterCaption = "(Click to change center point)";
+inline constexpr std::string_view kGradientColorTips[2] = {"Click for first color",
+                                                           "Click for second color"};
+inline constexpr std::string_view kNoUnpaintedArea = "(Icon has no blank area)";
+inline constexpr std::string_view kCloseCancelTip = "Close/cancel";
+// The menu's refusal on a 16x16 icon (information).
+inline constexpr std::string_view kGradientLargeOnly = "For icons of 32x32 or 48x48 only";
+// cboGradientAngle: the entries "0" to "360", the angle being the entry's index.
+inline constexpr int kGradientAngles = 361;
 
 // cmdGradientColor's starting back colors.
 inline constexpr Color kGradientFirstColor = 0xC0C000;

@@ -76,6 +76,17 @@ ResizedPlanes ShrinkIcon(const Surface& picImage, const Surface& picMask) {
     return {ShrinkPlane(picImage), ShrinkPlane(picMask)};
 }
 
+std::string ResizeMultiIconMessage(bool expand) {
+    return std::string("Current icon originates from a multi-icon file which has") + "\r\n" +
+           "already had alternative size(s).  If you wish to " + (expand ? "expand" : "shrink") +
+           " the" + "\r\n" + "current one, save it as a single-icon file first.";
+}
+
+std::string ResizeQuestion(bool expand) {
+    return std::string(expand ? "Expand from 16x16 to 32x32." : "Shrink from 32x32 to 16x16.") +
+           "  (Undo will not be available)\r\nProceed?\r\n";
+}
+
 int AverageColor(Color c) {
     const int sum = surface::RedOf(c) + surface::GreenOf(c) + surface::BlueOf(c);
     return static_cast<int>(std::lrint(sum / 3.0));
@@ -101,13 +112,15 @@ std::optional<std::string_view> Confine16Refusal(int colorClass) {
     return std::nullopt;
 }
 
-void ConfineTo16(const Surface& picIcon, Surface& picImage) {
-    for (int x = 0; x < picIcon.Width(); ++x)
+void ConfineTo16(const Surface& picIcon, Surface& picImage, const std::function<void()>& afterColumn) {
+    for (int x = 0; x < picIcon.Width(); ++x) {
         for (int y = 0; y < picIcon.Height(); ++y) {
             const Color c = picIcon.GetPixel(x, y);
             if (c == icon::kTransparentGray || IsChartColor(c)) continue;
             picImage.SetPixelV(x, y, MapToChart16(c));
         }
+        if (afterColumn) afterColumn();
+    }
 }
 
 void ConfineToMono(Surface& picImage, Surface& picMask, int threshold,

@@ -4,7 +4,9 @@
 // Confine to 16 maps each color by a fixed two-stage rule onto the sixteen chart colors, and
 // Confine to mono makes dark cells black and bright ones transparent. The window asks, shows
 // the frames and updates the slot's record; nothing here prompts.
+#include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "core/icon/icon_colors.h"
@@ -33,6 +35,17 @@ Surface ShrinkPlane(const Surface& plane);
 // mnuEffectsShrink: both planes halved by ShrinkPlane. The inverse of ExpandIcon.
 ResizedPlanes ShrinkIcon(const Surface& picImage, const Surface& picMask);
 
+// What Expand and Shrink write into the slot's record.
+inline constexpr std::string_view kExpandedKind = "Expanded from 16x16";
+inline constexpr std::string_view kShrunkKind = "Shrunk from 32x32";
+inline constexpr std::string_view kExpandedFileSpec = "Enlarged";
+inline constexpr std::string_view kShrunkFileSpec = "Shrunk";
+// The three lines that refuse an icon of a multi-icon file (information).
+std::string ResizeMultiIconMessage(bool expand);
+// The Yes/No question before the change: "Expand from 16x16 to 32x32.  (Undo will not be
+// available)" or the Shrink one, a line break, "Proceed?", a line break.
+std::string ResizeQuestion(bool expand);
+
 // round((R + G + B) / 3), ties to even.
 int AverageColor(Color c);
 // True exactly for the sixteen colors of ColorChart16.
@@ -50,13 +63,17 @@ std::optional<std::string_view> Confine16Refusal(int colorClass);
 
 // mnuEffectsConfineColorsTo16, x outer and y inner: each cell whose PicIcon color is neither
 // 0xC0C0C0 nor a chart color gets MapToChart16 of that color in picImage. The mask is left as
-// it is, so transparent cells (shown in 0xC0C0C0) stay transparent.
-void ConfineTo16(const Surface& picIcon, Surface& picImage);
+// it is, so transparent cells (shown in 0xC0C0C0) stay transparent. afterColumn, if given,
+// runs after each column (the window lets pending events through there).
+void ConfineTo16(const Surface& picIcon, Surface& picImage,
+                 const std::function<void()>& afterColumn = {});
 
 // cboConfineToMonoThreshold: "1" to "354", initially "128".
 inline constexpr int kMonoThresholdFirst = 1;
 inline constexpr int kMonoThresholdLast = 354;
 inline constexpr int kMonoThresholdStart = 128;
+inline constexpr std::string_view kMonoThresholdCaption =
+    "Threshold:    (If averaged color value below threshold, black)";
 
 // cmdConfineToMonoProceed over the region's cells when given, else the whole of picImage,
 // x outer and y inner: a white image cell is left alone; any other becomes black in picImage,

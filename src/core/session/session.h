@@ -7,6 +7,7 @@
 //   EffectsPanels     what the effect frames keep while they are up
 //   FloatingRegion, ShiftPad   the floating Region; Shift Directions and its pad
 //   AniSession, IconsListSession   the animated cursor session and the Icons List
+//   ColorMixer        the Color Mixer's bars and strip
 // The window redraws itself from the parts' pictures and the FormState; nothing here knows
 // about widgets.
 #include <array>
@@ -19,6 +20,7 @@
 #include "core/host/host.h"
 #include "core/icon/icon_colors.h"
 #include "core/session/ani_frames/ani_session.h"
+#include "core/session/color_mixer/color_mixer.h"
 #include "core/session/edited_icon/edited_icon.h"
 #include "core/session/editing_view/editing_view.h"
 #include "core/session/effects_panels/effects_panels.h"
@@ -67,6 +69,9 @@ public:
     const EditingView& View() const { return m_view; }
     const ShadesState& Shades() const { return m_effects.Shades(); }
     const EffectsPanels& Effects() const { return m_effects; }
+    const GradientPanel& Gradient() const { return m_effects.Gradient(); }
+    const ConfineMonoPanel& ConfineMono() const { return m_effects.ConfineMono(); }
+    const ColorMixer& Mixer() const { return m_mixer; }
     const AniSession& Ani() const { return m_ani; }
     const FloatingRegion& Floating() const { return m_floating; }
     const ShiftPad& Shift() const { return m_shift; }
@@ -212,6 +217,30 @@ public:
     void ClickRotateAngleList(int listIndex);  // cboRotateAngle
     void ClickRotateAntiAlias(bool checked);   // ckbRotateAntiAlias
     void RotateSelectAngleProceed();           // cmdRotateSelectAngleProceed
+    // --- Gradient Unpainted Area (session_gradient.cpp) -------------------------------------
+    void ClickGradientType(int k);       // OptGradType(k)
+    void ClickGradientAngle(int index);  // cboGradientAngle
+    void ClickGradientColor(int i);      // cmdGradientColor(i)
+    // A pointer press on PicGradient(k) at (x, y) in its pixels.
+    void PressOnGradient(int k, Button button, int x, int y);
+    void GradientProceed();              // cmdGradientProceed
+
+    // --- Expand, Shrink and Confine (session_resize_confine.cpp) ------------------------------
+    void ClickMonoThreshold(int index);  // cboConfineToMonoThreshold
+    void ConfineToMonoProceed();         // cmdConfineToMonoProceed
+
+    // --- Color Mixer and palette files (session_color_mixer.cpp) ---------------------------
+    void ChangeMixBar(int i, int value);  // HsrRGB(i) change
+    void ScrollMixBar(int i, int value);  // HsrRGB(i) scroll, while its thumb is dragged
+    void ClickAdjMix(int element);        // cmdAdjMix(element)
+    // The pointer on picMixGradient at (x, y) in its pixels.
+    void PointerOverMixStrip(int x, int y);
+    void PressOnMixStrip(int x, int y);
+    void ReleaseOnMixStrip(int x, int y);
+    // A pointer release on PicRGB(0..2), or on PicRGBMix (3).
+    void ReleaseOnMixSwatch(int i);
+    void LoadPalette();  // picLoadPalette, mnuPaletteSub(3)
+    void SavePalette();  // picSavePalette, mnuPaletteSub(4)
 
     // --- Status bar (session_status.cpp) ----------------------------------------------------
     // A fresh icon in the Editing Area: tools cleared, progress hidden, the status panels
@@ -343,6 +372,11 @@ private:
     void MarkChanged() override;
     void RefreshDisplay() override;
     void ShowRegionMeasure();
+    // The Effects menu's gradient, size and color entries.
+    void mnuEffectsGradientUnpaintedArea();
+    void ResizeIcon(bool expand);  // mnuEffectsExpand, mnuEffectsShrink
+    void mnuEffectsConfineColorsTo16();
+    void mnuEffectsConfineColorsTo2();
     void ResetRegionState();
     // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
     friend class RegionToolView;
@@ -378,6 +412,7 @@ private:
     RegionToolView m_regionTool{*this};
     ShiftPad m_shift;
     AniSession m_ani;
+    ColorMixer m_mixer;
     IconsListSession m_list;
     FormState m_form;
     FileHistoryMenu m_fileHistory;

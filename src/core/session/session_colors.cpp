@@ -31,7 +31,8 @@ void Session::ClickPaletteSub(int index) {
     if (m_form.VisibleFrame != Frame::ColorsPanel) return;
     if (index == 0 && m_form.PaletteMode != 0) SwitchTo16ColorChart();
     if (index == 1 && m_form.PaletteMode != 1) SwitchTo256ColorChart();
-    // Loading and saving a palette belong to the Color Mixer.
+    if (index == 3) LoadPalette();
+    if (index == 4) SavePalette();
 }
 
 void Session::SetPaletteModeForIcon() {

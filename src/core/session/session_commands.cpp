@@ -89,6 +89,11 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuEffectsText", [](Session& s, int) { s.ClickEffectsText(); }},
         {"mnuEffectsAdjustPaintedColors",
          [](Session& s, int) { s.ClickEffectsAdjustPaintedColors(); }},
+        {"mnuEffectsGradientUnpaintedArea", [](Session& s, int) { s.mnuEffectsGradientUnpaintedArea(); }},
+        {"mnuEffectsExpand", [](Session& s, int) { s.ResizeIcon(true); }},
+        {"mnuEffectsShrink", [](Session& s, int) { s.ResizeIcon(false); }},
+        {"mnuEffectsConfineColorsTo16", [](Session& s, int) { s.mnuEffectsConfineColorsTo16(); }},
+        {"mnuEffectsConfineColorsTo2", [](Session& s, int) { s.mnuEffectsConfineColorsTo2(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {

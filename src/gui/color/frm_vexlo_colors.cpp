@@ -96,6 +96,7 @@ void FrmVexlo::BuildColorsPanel(QFrame* panel) {
 
     fraColorMixer = MakeGroup(panel, "Color Mixer", QRect(6, 182, 262, 118));
     fraColorMixer->setObjectName("fraColorMixer");
+    BuildColorMixer(fraColorMixer);
 }
 
 void FrmVexlo::SyncColorsPanel() {
@@ -110,6 +111,7 @@ void FrmVexlo::SyncColorsPanel() {
     if (cboBrushSize->currentIndex() != form.BrushSizeIndex)
         cboBrushSize->setCurrentIndex(form.BrushSizeIndex);
     imgColorPicker->setEnabled(form.ColorPickerEnabled);
+    SyncColorMixer();
 }
 
 }  // namespace vexlo::gui

@@ -14,6 +14,7 @@
 class QAction;
 class QCheckBox;
 class QPushButton;
+class QRadioButton;
 class QScrollBar;
 class QComboBox;
 class QGroupBox;
@@ -116,6 +117,23 @@ public:
     AdjustColorsFrame* fraAdjustPaintedColors = nullptr;
     TextFrame* fraText = nullptr;
     RotateAngleFrame* fraRotateSelectAngle = nullptr;
+    // Inside fraGradient.
+    std::array<QRadioButton*, 3> OptGradType{};
+    std::array<SurfaceView*, 3> PicGradient{};
+    QComboBox* cboGradientAngle = nullptr;
+    std::array<QToolButton*, 2> cmdGradientColor{};
+    QLabel* lblNoUnpaintedArea = nullptr;
+    QPushButton* cmdGradientProceed = nullptr;
+    // Inside fraConfineToMono.
+    QComboBox* cboConfineToMonoThreshold = nullptr;
+    // Inside fraColorMixer.
+    std::array<QScrollBar*, 3> HsrRGB{};
+    std::array<QLabel*, 3> lblRGB{};
+    std::array<SurfaceView*, 3> PicRGB{};
+    SurfaceView* PicRGBMix = nullptr;
+    SurfaceView* picMixGradient = nullptr;
+    QFrame* ShapeMix = nullptr;
+    std::array<QToolButton*, 3> cmdAdjMix{};
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -144,6 +162,12 @@ private:
     void SyncShades();
     void BuildSaveAsCursorFrame(QFrame* frame);
     void SyncSaveAsCursor();
+    void BuildGradientFrame(QFrame* frame);  // gui/effects/frm_vexlo_gradient.cpp
+    void SyncGradient();
+    void BuildConfineToMonoFrame(QFrame* frame);  // gui/effects/frm_vexlo_confine_mono.cpp
+    void SyncConfineToMono();
+    void BuildColorMixer(QGroupBox* group);  // gui/color/frm_vexlo_mixer.cpp
+    void SyncColorMixer();
     void SyncPointer();
     // The Shift Directions pad with its caption at padAt, the keys of picDisp that move and
     // erase a floating Region, and the toolbar following the clipboard (frm_vexlo_region.cpp).

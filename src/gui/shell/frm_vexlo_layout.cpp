@@ -117,6 +117,8 @@ void FrmVexlo::BuildLayout() {
     fraAdjustPaintedColors = new AdjustColorsFrame(*this, Frames[session::Frame::AdjustPaintedColors]);
     fraText = new TextFrame(*this, Frames[session::Frame::Text]);
     fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
+    BuildGradientFrame(Frames[session::Frame::Gradient]);
+    BuildConfineToMonoFrame(Frames[session::Frame::ConfineToMono]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

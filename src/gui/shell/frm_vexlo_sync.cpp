@@ -74,6 +74,8 @@ void FrmVexlo::SyncFromModel() {
     fraAdjustPaintedColors->Sync();
     fraText->Sync();
     fraRotateSelectAngle->Sync();
+    SyncGradient();
+    SyncConfineToMono();
     SyncStatus();
 }
 

@@ -123,7 +123,7 @@ TEST(GradientSpherical, RingCountAndCells) {
     } cases[] = {
         {32, 16, 16, 24, {{16, 16, 0}, {31, 31, 21}, {31, 0, 22}, {0, 31, 22}}},
         {32, 0, 0, 45, {{0, 0, 0}, {31, 31, 44}}},
-        {48, 24, 24, 35, {{24, 24, 0}, {47, 24, 23}, {0, 24, 24}}},
+        {48, 24, 24, 35, {{24, 24, 0}, {47, 24, 23}, {0, 24, 24}, {0, 0, 34}, {47, 0, 33}, {0, 47, 33}}},
         {16, 8, 8, 13, {{8, 8, 0}}},
     };
     for (const auto& c : cases) {
@@ -142,6 +142,11 @@ TEST(GradientSpherical, RingCountAndCells) {
     Surface s(32, 32, 0xFFFFFF);
     DrawSphericalGradient(s, 16, 16, 0x000000, Rgb(0, 24, 0));
     EXPECT_EQ(s.GetPixel(0, 0), 0xFFFFFFu);
+    // So does the far corner of 48x48 at 32.5 from the middle: inside circle 33 without
+    // a side outside it, and nowhere near circle 34.
+    Surface big(48, 48, 0xFFFFFF);
+    DrawSphericalGradient(big, 24, 24, 0x000000, Rgb(0, 35, 0));
+    EXPECT_EQ(big.GetPixel(47, 47), 0xFFFFFFu);
 }
 
 TEST(GradientProceed, FillsUnpaintedCellsOnly) {

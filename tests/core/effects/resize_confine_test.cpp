@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/files/ico_write.h"
 #include "core/icon/icon_planes.h"
 
 namespace vexlo::effects {
@@ -84,6 +85,14 @@ TEST(Confine16, MapByStages) {
         {192, 60, 200, 0x800080},   // (192,0,192) -> purple
         {255, 128, 128, 0xFFFFFF},
         {255, 60, 200, 0xFF00FF},   // (255,0,192) -> magenta
+        // Halves, each rounded to even: 191 -> 96, 193 -> 96, 241 -> 120, 1 -> 0, 3 -> 2.
+        {127, 191, 239, 0x808080},  // (128,192,255) -> gray
+        {129, 193, 241, 0x808080},  // the same after rounding down
+        {125, 189, 237, 0x808000},  // (0,128,192) -> teal
+        {191, 63, 65, 0x000080},    // (192,0,0) -> maroon
+        {1, 255, 129, 0xFFFF00},    // (0,255,128) -> cyan
+        {3, 3, 191, 0x800000},      // (0,0,192) -> navy
+        {192, 192, 192, 0xC0C0C0},  // silver stays
     };
     for (const auto& c : cases)
         EXPECT_EQ(MapToChart16(Rgb(c.R, c.G, c.B)), c.Want) << c.R << "," << c.G << "," << c.B;
@@ -107,6 +116,30 @@ TEST(Confine16, ManyColorIconEndsInChartColors) {
     EXPECT_EQ(Confine16Refusal(2), kMonochromeMessage);
     EXPECT_EQ(Confine16Refusal(16), kSixteenColorMessage);
     EXPECT_FALSE(Confine16Refusal(256).has_value());
+}
+
+TEST(Confine16, A256ColorIconEndsInTheSixteen) {
+    // 256 different colors, each cell painted: R = 16x + y, G = 16y + x, B = xy.
+    Surface image(16, 16, 0xFFFFFF), mask(16, 16, 0xFFFFFF), picIcon(16, 16, 0xC0C0C0);
+    mask.Fill(0x000000);
+    for (int x = 0; x < 16; ++x)
+        for (int y = 0; y < 16; ++y) image.SetPixelV(x, y, Rgb(16 * x + y, 16 * y + x, x * y));
+    ASSERT_EQ(files::CountColors(image), 256);
+    const Surface before = image;
+    icon::Compose(image, mask, picIcon);
+    ConfineTo16(picIcon, image);
+    for (int x = 0; x < 16; ++x)
+        for (int y = 0; y < 16; ++y) {
+            const Color was = before.GetPixel(x, y);
+            ASSERT_EQ(image.GetPixel(x, y), was == 0xC0C0C0 || IsChartColor(was) ? was : MapToChart16(was));
+            ASSERT_TRUE(IsChartColor(image.GetPixel(x, y))) << x << "," << y;
+        }
+    EXPECT_EQ(image.GetPixel(15, 15), 0xFFFFFFu);  // (255,255,225) -> white
+    EXPECT_EQ(files::CountColors(image), 16);
+
+    Surface mono = before;
+    ConfineToMono(mono, mask, kMonoThresholdStart);
+    EXPECT_EQ(files::CountColors(mono), 2);
 }
 
 TEST(ConfineMono, ThresholdWhiteAndRegion) {

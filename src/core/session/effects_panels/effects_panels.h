@@ -10,6 +10,8 @@
 #include "core/session/effects_panels/buttonize_panel.h"
 #include "core/session/effects_panels/rotate_angle_panel.h"
 #include "core/session/effects_panels/text_panel.h"
+#include "core/session/effects_panels/confine_mono_panel.h"
+#include "core/session/effects_panels/gradient_panel.h"
 
 namespace vexlo::session {
 
@@ -27,6 +29,11 @@ struct ShadesState {
 class EffectsPanels {
 public:
     const ShadesState& Shades() const { return m_shades; }
+    // fraGradient and fraConfineToMono.
+    GradientPanel& Gradient() { return m_gradient; }
+    const GradientPanel& Gradient() const { return m_gradient; }
+    ConfineMonoPanel& ConfineMono() { return m_confineMono; }
+    const ConfineMonoPanel& ConfineMono() const { return m_confineMono; }
 
     // mnuEffectsSub(index): the shades frame set up for its effect; false for an index that
     // has no shades frame (the preview is then left to run).
@@ -62,6 +69,8 @@ private:
     AdjustColorsPanel m_adjustColors;
     TextPanel m_text;
     RotateAnglePanel m_rotateAngle;
+    GradientPanel m_gradient;
+    ConfineMonoPanel m_confineMono;
 };
 
 }  // namespace vexlo::session
