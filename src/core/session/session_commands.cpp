@@ -84,6 +84,7 @@ bool Session::RunMenuItem(std::string_view name) {
          [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
         {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
+        {"mnuANIFileCreateOrEdit", [](Session& s, int) { s.mnuANIFileCreateOrEdit(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {
