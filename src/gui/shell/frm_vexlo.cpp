@@ -113,6 +113,7 @@ void FrmVexlo::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
+    m_session.EndAniSessionAtExit();
     event->accept();
 }
 

@@ -24,6 +24,7 @@ class QToolButton;
 
 namespace vexlo::gui {
 
+class AniContainerView;
 class ElidedLabel;
 class SurfaceView;
 
@@ -105,6 +106,8 @@ public:
     std::array<QPushButton*, 2> cmdShadesProceed{};
     // Inside fraSaveAsCursor.
     std::array<QComboBox*, 2> cboCursorHotSpot{};
+    // The animated cursor session's container over the panel frames (gui/ani).
+    AniContainerView* picANIContainer = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -7,6 +7,7 @@
 #include <QStatusBar>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -108,6 +109,8 @@ void FrmVexlo::BuildLayout() {
     BuildColorsPanel(Frames[session::Frame::ColorsPanel]);
     BuildShadesFrame(Frames[session::Frame::EffectsShades]);
     BuildSaveAsCursorFrame(Frames[session::Frame::SaveAsCursor]);
+    // picFraContainer, where the container moves, begins 40 pixels above the panel frames.
+    picANIContainer = new AniContainerView(*this, m_form, QPoint(kRightLeft - 1, kFramesTop - session::kAniContainerTop));
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -58,6 +59,7 @@ void FrmVexlo::SyncFromModel() {
     SyncColorsPanel();
     SyncShades();
     SyncSaveAsCursor();
+    picANIContainer->Sync();
     SyncStatus();
 }
 
