@@ -294,5 +294,43 @@ TEST_F(AniFlowTest, LoadIconFileToFrameRefusesOtherFilesWithTheirMessages) {
     EXPECT_EQ(host.openRequests.back().Filter, "Icon files (*.ico)|*.ico|");
 }
 
+TEST_F(AniFlowTest, ASaveThatFailsSaysSoAndTheExitDeletesTheTemporaryFrames) {
+    StartNew();
+    Click(kAniAddBelow);
+    host.Answer(MsgAnswer::Yes);
+    host.AnswerSave(Path("missing/folder/x.ani"));
+    host.Answer(MsgAnswer::Ok);
+    Click(kAniSave);
+    EXPECT_EQ(LastMessage().rfind("SaveANIFile.  Failed to save this ani file.\r\n2     ", 0), 0u) << LastMessage();
+    EXPECT_TRUE(ani().Dirty());
+    EXPECT_TRUE(ani().ButtonEnabled(kAniSave));
+    EXPECT_FALSE(s.Form().Status.ProgressVisible);
+    // The frames were staged all the same; the exit removes them.
+    ASSERT_EQ(ani().TempFiles().size(), 2u);
+    const std::string staged = ani().TempFiles()[1];
+    EXPECT_NE(staged.find("ANI_Tmp_01"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(staged));
+    s.EndAniSessionAtExit();
+    EXPECT_FALSE(std::filesystem::exists(staged));
+}
+
+TEST_F(AniFlowTest, AnAniFileOnTheCommandLineOpensInTheContainerOrClosesItAgain) {
+    session::Session other{host};
+    other.Load(1024, 768);
+    std::string quoted = "\"";
+    quoted.append(Ani("ico4bit_70.ani")).append("\"");
+    EXPECT_EQ(other.RunFirstActivation(quoted, nullptr), session::CommandLineResult::Loaded);
+    EXPECT_TRUE(other.Ani().ContainerVisible());
+    EXPECT_EQ(other.Ani().FrameCount(), 70);
+    EXPECT_EQ(other.Form().Status.Panel[0], Ani("ico4bit_70.ani"));
+
+    session::Session third{host};
+    third.Load(1024, 768);
+    host.Answer(MsgAnswer::Ok);
+    EXPECT_EQ(third.RunFirstActivation(Ani("cur1bit_72.ani"), nullptr), session::CommandLineResult::LoadFailed);
+    EXPECT_EQ(host.shown.back().icon, host::MsgIcon::Exclamation);
+    EXPECT_FALSE(third.Ani().ContainerVisible());
+}
+
 }  // namespace
 }  // namespace vexlo::test
