@@ -27,11 +27,6 @@ AniSession::AniSession() {
     Reset();
 }
 
-void AniSession::Close() {
-    Reset();
-    m_containerVisible = false;
-}
-
 const AniFrameRecord* AniSession::CurrentRow() const {
     if (m_current < 1 || m_current > FrameCount() || static_cast<std::size_t>(m_current) > m_set.AniFrames.size())
         return nullptr;

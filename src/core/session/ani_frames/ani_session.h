@@ -48,8 +48,6 @@ public:
     bool ContainerVisible() const { return m_containerVisible; }
     void ShowContainer() { m_containerVisible = true; }
     void HideContainer() { m_containerVisible = false; }
-    // The session ends and its container goes: Reset, then hidden.
-    void Close();
     const AniContainer& Container() const { return m_container; }
     AniContainer& Container() { return m_container; }
 
