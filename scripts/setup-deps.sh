@@ -8,6 +8,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth fonts-dejavu-core xdg-utils
   icoutils libpng-dev
+  desktop-file-utils appstream
 )
 
 missing=()

@@ -28,6 +28,8 @@ constexpr const char* kUsage =
     "  convert IN OUT.ico [--force256]\n"
     "                                 a 16x16, 32x32 or 48x48 PNG, BMP or ICO picture\n"
     "                                 saved as the editor saves it\n"
+    "  alpha FILE INDEX               the alpha bytes of a 32-bit image, rows from the top\n"
+    "  thumbnail IN OUT.png [SIZE]    the largest image as a PNG of at most SIZE pixels\n"
     "  split FILE OUTDIR              every listed image of a multi-icon file as a\n"
     "                                 single-icon file, bytes unchanged\n"
     "  ani OUT.ani [--jiffies J,...] [--hotspot X,Y] FRAME...\n"
@@ -88,6 +90,22 @@ constexpr const char* kAniHelp =
     "editor writes: each frame a cursor at the depth of its colors, every frame with the hot\n"
     "spot X,Y (0 to 31, default 0,0), and the jiffies of each frame in a rate chunk: one value\n"
     "for all frames or one per frame, 1 to 90 (default 30).\n";
+
+constexpr const char* kAlphaHelp =
+    "usage: vexlo-cli alpha FILE INDEX\n"
+    "Prints the alpha bytes that image INDEX (from 0) of an icon or cursor file stores, as the\n"
+    "editor keeps them: one line per row, the top row first, each byte as two hex digits\n"
+    "separated by blanks. Only a 32-bit image stores alpha bytes; any other image, a PNG\n"
+    "image among them, is refused, as is an image that 'info' cannot read whole.\n";
+
+constexpr const char* kThumbnailHelp =
+    "usage: vexlo-cli thumbnail IN OUT.png [SIZE]\n"
+    "Writes the picture a file manager shows for an icon, cursor or animated cursor file: its\n"
+    "largest image (the deepest of one size; of an animated cursor, of the first frame) as an\n"
+    "RGBA PNG that fits SIZE x SIZE pixels (default 128, at most 1024). A smaller image is\n"
+    "enlarged by a whole factor, pixel by pixel; a larger one is reduced. Images that cannot\n"
+    "be read whole are passed over; a file with none, or one that takes more than two\n"
+    "seconds, gives exit status 1.\n";
 
 constexpr const char* kSplitHelp =
     "usage: vexlo-cli split FILE OUTDIR\n"
@@ -179,7 +197,8 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
     };
     static const Entry kCommands[] = {{"probe", kProbeHelp}, {"info", kInfoHelp},
                                       {"export", kExportHelp}, {"convert", kConvertHelp},
-                                      {"split", kSplitHelp}, {"ani", kAniHelp}};
+                                      {"split", kSplitHelp}, {"ani", kAniHelp},
+                                      {"alpha", kAlphaHelp}, {"thumbnail", kThumbnailHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -191,6 +210,8 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
         if (command == "export") return Export(rest, err);
         if (command == "split") return Split(rest, out, err);
         if (command == "ani") return AniBuild(rest, err);
+        if (command == "alpha") return Alpha(rest, out, err);
+        if (command == "thumbnail") return Thumbnail(rest, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");

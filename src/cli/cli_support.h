@@ -21,6 +21,9 @@ bool ReadInputFile(const std::string& path, std::vector<std::uint8_t>& data, std
 int Info(const std::vector<std::string>& args, std::string& out, std::string& err);
 int Export(const std::vector<std::string>& args, std::string& err);
 int Split(const std::vector<std::string>& args, std::string& out, std::string& err);
+int Alpha(const std::vector<std::string>& args, std::string& out, std::string& err);
+// The picture a file manager shows for an icon, cursor or animated cursor file.
+int Thumbnail(const std::vector<std::string>& args, std::string& err);
 
 // Reading an index from 0: false for anything but a whole number.
 bool ParseIndex(const std::string& text, std::size_t& index);

@@ -1,4 +1,4 @@
-// info, export and split: the commands that read what each image of a file really holds.
+// info, export, alpha and split: the commands that read what each image of a file really holds.
 #include <charconv>
 #include <filesystem>
 #include <functional>
@@ -13,6 +13,28 @@
 #include "core/files/multi_icon_list.h"
 
 namespace vexlo::cli {
+
+namespace {
+
+// The directory of the icon or cursor file at path and its entry index decoded; false after
+// telling err why.
+bool DecodeEntryOf(const std::string& path, files::Bytes bytes, std::size_t index, EntryImage& image,
+                   std::string& err) {
+    IconDirectory dir;
+    std::string why;
+    if (!ReadIconDirectory(bytes, dir, why))
+        why = path + ": " + why;
+    else if (index >= dir.Entries.size())
+        why = path + " has " + std::to_string(dir.Entries.size()) + " image(s); no image " + std::to_string(index);
+    else if (!DecodeIconEntry(bytes, dir, index, image, why))
+        why = path + ": image " + std::to_string(index) + ": " + why;
+    else
+        return true;
+    Fail(err, why);
+    return false;
+}
+
+}  // namespace
 
 int Info(const std::vector<std::string>& a, std::string& out, std::string& err) {
     std::vector<std::string> paths;
@@ -68,15 +90,33 @@ int Export(const std::vector<std::string>& args, std::string& err) {
     const files::Bytes bytes(data.data(), data.size());
     if (ani::IsAconFile(bytes)) return AniExport(a[0], bytes, index, imageOption, a[2], err);
     if (imageOption) return Fail(err, "--image is for animated cursors; INDEX names the image of an icon file");
-    IconDirectory dir;
-    std::string why;
-    if (!ReadIconDirectory(bytes, dir, why)) return Fail(err, a[0] + ": " + why);
-    if (index >= dir.Entries.size())
-        return Fail(err, a[0] + " has " + std::to_string(dir.Entries.size()) + " image(s); no image " + a[1]);
     EntryImage image;
-    if (!DecodeIconEntry(bytes, dir, index, image, why))
-        return Fail(err, a[0] + ": image " + a[1] + ": " + why);
+    if (!DecodeEntryOf(a[0], bytes, index, image, err)) return 1;
+    std::string why;
     return WritePngFile(image.Pixels, a[2], why) ? 0 : Fail(err, why);
+}
+
+int Alpha(const std::vector<std::string>& a, std::string& out, std::string& err) {
+    if (a.size() != 2) return Fail(err, "alpha takes FILE INDEX (see 'vexlo-cli alpha --help')");
+    std::size_t index = 0;
+    if (!ParseIndex(a[1], index)) return Fail(err, "INDEX must be a whole number from 0: " + a[1]);
+    std::vector<std::uint8_t> data;
+    if (!ReadInputFile(a[0], data, err)) return 1;
+    EntryImage image;
+    if (!DecodeEntryOf(a[0], files::Bytes(data.data(), data.size()), index, image, err)) return 1;
+    const int w = image.Pixels.Width;
+    if (image.StoredAlpha.empty())
+        return Fail(err, a[0] + ": image " + a[1] + " stores no alpha values (" +
+                             (image.Png ? std::string("a PNG") : std::to_string(image.Bits) + " bits per pixel") + ")");
+    static const char kHex[] = "0123456789abcdef";
+    for (std::size_t i = 0; i < image.StoredAlpha.size(); ++i) {
+        const std::uint8_t v = image.StoredAlpha[i];
+        if (i % static_cast<std::size_t>(w) != 0) out += ' ';
+        out += kHex[v >> 4];
+        out += kHex[v & 15];
+        if ((i + 1) % static_cast<std::size_t>(w) == 0) out += '\n';
+    }
+    return 0;
 }
 
 bool ParseIndex(const std::string& text, std::size_t& index) {

@@ -77,6 +77,11 @@ bool DecodeDibEntry(files::Bytes span, const IconEntry& e, EntryImage& out, std:
         return false;
     }
     if (!DecodeDibRows(dib, out.Pixels, why)) return false;
+    out.StoredAlpha.clear();
+    if (h.BitCount == 32) {
+        out.StoredAlpha.reserve(out.Pixels.Pixels.size() / 4);
+        for (std::size_t i = 3; i < out.Pixels.Pixels.size(); i += 4) out.StoredAlpha.push_back(out.Pixels.Pixels[i]);
+    }
     out.MaskFromAlpha = maskLeft == 0;
     if (!out.MaskFromAlpha && (h.BitCount < 32 || AllAlphaZero(out.Pixels)))
         AlphaFromMask(r.Take(maskBytes), out.Pixels);

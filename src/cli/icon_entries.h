@@ -52,6 +52,9 @@ struct EntryImage {
     // Alpha 0 where the mask is set, 255 where not; a 32-bit image's own alpha, unless all of
     // its alpha bytes are 0 (then the mask's).
     RgbaImage Pixels;
+    // The alpha bytes a 32-bit image stores, rows from the top, as they stand in the file
+    // (all 0 stays 0); empty for other depths and for PNG entries.
+    std::vector<std::uint8_t> StoredAlpha;
 };
 
 // Checks entry index against the file and decodes it: its bytes lie after the directory and

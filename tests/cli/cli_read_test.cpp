@@ -234,3 +234,41 @@ TEST_F(CliReadTest, EveryImageOfAMultiImageCursorExports) {
 
 }  // namespace
 }  // namespace vexlo::test
+
+namespace vexlo::test {
+namespace {
+
+TEST_F(CliReadTest, AlphaPrintsTheStoredBytesTopRowFirst) {
+    // Alpha of file row r (the bottom one first) and column c: 16 r + c; all 0 stays 0.
+    for (const bool zero : {false, true}) {
+        Dib d;
+        d.Bits = 32;
+        std::vector<std::uint8_t> image = DibHeaderBytes(d);
+        for (int r = 0; r < 16; ++r)
+            for (int c = 0; c < 16; ++c)
+                image.insert(image.end(), {1, 2, 3, static_cast<std::uint8_t>(zero ? 0 : 16 * r + c)});
+        image.resize(image.size() + 16 * 4, 0);  // mask rows
+        const std::string path = Write("a32.ico", IconFileBytes({Entry{16, 16, 1, 32, image}}));
+        const CliResult r = Cli({"alpha", path, "0"});
+        ASSERT_EQ(r.code, 0) << r.err;
+        std::string want;
+        static const char kHex[] = "0123456789abcdef";
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x) {
+                const int v = zero ? 0 : 16 * (15 - y) + x;
+                want += kHex[v >> 4];
+                want += kHex[v & 15];
+                want += x == 15 ? '\n' : ' ';
+            }
+        EXPECT_EQ(r.out, want);
+    }
+    // An image without alpha bytes, and an index past the directory, are refused.
+    const std::string oneBit = Write("a1.ico", IconFileBytes({DibEntry()}));
+    const CliResult none = Cli({"alpha", oneBit, "0"});
+    EXPECT_EQ(none.code, 1);
+    EXPECT_NE(none.err.find("stores no alpha values (1 bits per pixel)"), std::string::npos) << none.err;
+    EXPECT_EQ(Cli({"alpha", oneBit, "1"}).code, 1);
+}
+
+}  // namespace
+}  // namespace vexlo::test

@@ -195,5 +195,24 @@ TEST_F(FrmVexloTest, ABitmapSavedAndImportedAgainKeepsItsTransparentPixels) {
     QFile::remove(QString::fromStdString(path));
 }
 
+TEST_F(FrmVexloTest, TheFileHistoryAndTheOptionsOutliveTheWindow) {
+    Open();
+    const std::string path = (QDir::tempPath() + "/vexlo_history_entry.ico").toStdString();
+    host.AnswerSave(path);
+    window->Item("mnuFileNew(0)")->trigger();
+    window->Item("mnuFileSaveAsICO")->trigger();
+    window->Item("mnuOptionsGridline(2)")->trigger();
+    EXPECT_TRUE(window->Item("mnuFileHistory(1)")->isVisible());
+    EXPECT_EQ(window->Item("mnuFileHistory(1)")->text().toStdString(), "&1 " + path);
+    window->session().Current().Changed = false;
+    ASSERT_TRUE(window->close());
+    Open();
+    EXPECT_EQ(window->Item("mnuFileHistory(1)")->text().toStdString(), "&1 " + path);
+    EXPECT_TRUE(window->Item("mnuOptionsGridline(2)")->isChecked());
+    window->Item("mnuFileHistory(1)")->trigger();
+    EXPECT_EQ(window->session().Current().FileSpec, path);
+    QFile::remove(QString::fromStdString(path));
+}
+
 }  // namespace
 }  // namespace vexlo::test

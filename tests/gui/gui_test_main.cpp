@@ -5,11 +5,15 @@
 
 #include <QApplication>
 #include <QByteArray>
+#include <QTemporaryDir>
 
 #include "gui/platform/message_box.h"
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The window keeps its settings under the XDG config folder: a private one per run.
+    QTemporaryDir config;
+    qputenv("XDG_CONFIG_HOME", config.path().toLocal8Bit());
     ::testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
     vexlo::platform::SetMessageBoxHandler([](const std::string& text,

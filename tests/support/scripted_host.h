@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -124,6 +125,18 @@ public:
                                          const surface::Surface*, const std::string& description) override {
         multiIconRequests.push_back({fileSpec, addMode, description});
         return Next(m_multiAnswers, host::MultiIconAnswer{}, "multi-icon dialog: " + fileSpec);
+    }
+    // The alpha editor: the test plays the user on the model it is given (see AlphaEditor);
+    // unset, the editor is a failure and answers nothing.
+    std::function<host::AlphaEditorAnswer(const host::AlphaEditorRequest&)> alphaEditor;
+    int alphaEditorRuns = 0;
+    host::AlphaEditorAnswer ShowAlphaEditor(const host::AlphaEditorRequest& request) override {
+        ++alphaEditorRuns;
+        if (!alphaEditor) {
+            ADD_FAILURE() << "Unexpected alpha editor";
+            return {};
+        }
+        return alphaEditor(request);
     }
     // Pictures the platform would load, by path; any other path fails to load.
     std::map<std::string, surface::Surface> pictures;

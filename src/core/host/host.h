@@ -4,6 +4,7 @@
 // records its text, so that no flow ever waits on a real dialog.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/alpha/alpha_array.h"
 #include "core/surface/surface.h"
@@ -33,6 +34,41 @@ struct MultiIconAnswer {
     alpha::AlphaArray Alpha;
 };
 
+// What frmVexloAlpha is shown over: the main window's pictures, and IncomingAlpha, which the
+// dialog edits in place.
+struct AlphaEditorRequest {
+    const surface::Surface* PicIcon = nullptr;
+    const surface::Surface* Image = nullptr;
+    const surface::Surface* Mask = nullptr;
+    const surface::Surface* Grid = nullptr;
+    surface::Color GridColor = 0;
+    alpha::AlphaArray* Incoming = nullptr;
+};
+// Its answer: AlphaResult ("" or "1".."4") and AlphaFileSpec; for "1" the two planes that
+// replace the main window's.
+struct AlphaEditorAnswer {
+    std::string Result;
+    std::string FileSpec;
+    surface::Surface Image;
+    surface::Surface Mask;
+};
+
+// The clipboard's picture as known without reading its pixels.
+struct ClipboardPicture {
+    bool Present = false;   // the clipboard holds a picture
+    int Width = 0;          // 0 when its size can't be read
+    int Height = 0;
+    bool TooLarge = false;  // larger than the platform reads at all
+};
+
+// A font as the Text effect asks for it: a family, a size in points, bold and italic.
+struct TextFont {
+    std::string Name;
+    int Size = 8;
+    bool Bold = false;
+    bool Italic = false;
+};
+
 class Host {
 public:
     virtual ~Host() = default;
@@ -54,6 +90,8 @@ public:
                                           const std::string& /*addDescription*/) {
         return {};
     }
+    // frmVexloAlpha, modal; without a platform it closes at once and answers nothing.
+    virtual AlphaEditorAnswer ShowAlphaEditor(const AlphaEditorRequest& /*request*/) { return {}; }
     // Loads a picture file (BMP, GIF, JPEG, PNG, ...) into out at its own size; false when the
     // platform can't read it.
     virtual bool LoadPicture(const std::string& /*path*/, surface::Surface& /*out*/) { return false; }
@@ -63,6 +101,17 @@ public:
 
     // Whether the clipboard holds a bitmap.
     virtual bool ClipboardHasBitmap() { return false; }
+    // The clipboard's picture by its size; no pixel of it is read yet.
+    virtual ClipboardPicture ClipboardPictureInfo() { return {}; }
+    // The top left w x h pixels of the clipboard's picture into out, its transparent pixels in
+    // the transparent gray 0xC0C0C0. False when there is no picture or it can't be read.
+    virtual bool ReadClipboardPicture(int /*w*/, int /*h*/, surface::Surface& /*out*/) { return false; }
+    // Empties the clipboard and puts the picture on it. The pixels that are white in holes (of
+    // the picture's size) go out transparent where the format carries transparency.
+    virtual void SetClipboardPicture(const surface::Surface& /*picture*/,
+                                     const surface::Surface& /*holes*/) {}
+    // Empties the clipboard.
+    virtual void ClearClipboard() {}
 
     // The common dialogs (clsVexloDialog) and the folder dialog. A cancelled dialog answers
     // an empty string, -1 or false, and nothing else. Without a platform, every dialog is
@@ -78,6 +127,21 @@ public:
     virtual std::string GetFolderSpec(const std::string& /*pattern*/,
                                       const std::string& /*startFolder*/) {
         return {};
+    }
+
+    // The screen fonts' families, in the order the font list shows them; none without a
+    // platform.
+    virtual std::vector<std::string> ScreenFonts() { return {}; }
+    // The family that the platform really uses when asked for name; empty when it has none.
+    virtual std::string FontFamilyUsed(const std::string& /*name*/) { return {}; }
+    // One line of text drawn without smoothing: out becomes a picture of the text's width and
+    // height plus 2, filled with back, with the text at (1, 1) in color, its glyphs filled or,
+    // when hollow, their outlines stroked one pixel wide. False, with out untouched, when the
+    // platform can't draw text.
+    virtual bool DrawText(const TextFont& /*font*/, const std::string& /*text*/, bool /*hollow*/,
+                          surface::Color /*color*/, surface::Color /*back*/,
+                          surface::Surface& /*out*/) {
+        return false;
     }
 };
 

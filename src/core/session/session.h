@@ -5,11 +5,13 @@
 //   IconsPanel        the six slots, their records, alpha values and panel pictures
 //   EditingView       picDisp, the grid, the zoom, the Region's marks and the rubber band
 //   EffectsPanels     what the effect frames keep while they are up
+//   FloatingRegion, ShiftPad   the floating Region; Shift Directions and its pad
 //   AniSession, IconsListSession   the animated cursor session and the Icons List
 // The window redraws itself from the parts' pictures and the FormState; nothing here knows
 // about widgets.
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +27,11 @@
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
+#include "core/session/session_basics.h"
+#include "core/session/region/floating_region.h"
+#include "core/session/region/region_tool_view.h"
+#include "core/session/settings/file_history_menu.h"
+#include "core/session/shift_pad/shift_pad.h"
 #include "core/tools/tool_state.h"
 #include "core/tools/tool_strategy.h"
 
@@ -45,22 +52,6 @@ using icon::kTransparentGray;
 using icon::kWhite;
 using icon::kWindowColor;
 
-inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
-
-// Directories that the entry point finds; TempDir ends with its separator.
-struct Directories {
-    std::string WindowsDir;
-    std::string SystemDir;
-    std::string TempDir;
-    std::string ProgramDir;
-    std::string DesktopFolder;
-    std::string SystemFolder;
-    std::string LastFolder;
-};
-
-// What the first activation did with the command line.
-enum class CommandLineResult { Empty, NotFound, Ignored, Loaded, LoadFailed };
-
 class Session : private tools::ToolContext {
 public:
     explicit Session(Host& host);
@@ -75,8 +66,12 @@ public:
     const IconsPanel& Panel() const { return m_panel; }
     const EditingView& View() const { return m_view; }
     const ShadesState& Shades() const { return m_effects.Shades(); }
+    const EffectsPanels& Effects() const { return m_effects; }
     const AniSession& Ani() const { return m_ani; }
+    const FloatingRegion& Floating() const { return m_floating; }
+    const ShiftPad& Shift() const { return m_shift; }
     const FormState& Form() const { return m_form; }
+    const FileHistoryMenu& FileHistory() const { return m_fileHistory; }
 
     // The records are plain data; whoever changes one keeps its slot's pictures in step.
     IconSlot& SlotRecord(int k) { return m_panel.Slot(k); }
@@ -192,6 +187,32 @@ public:
     void ShadesProceed();   // cmdShadesProceed(0)
     void ShadesRestore();   // cmdShadesProceed(1)
 
+    // --- Buttonize and Adjust Painted Colors (session_buttonize.cpp, session_adjust_colors.cpp)
+    void ClickButtonizePattern(int index);  // cboButtonizePattern, picButtonize(index)
+    void ButtonizeProceed();                // cmdButtonizeProceed
+    void ClickEffectsAdjustPaintedColors();  // mnuEffectsAdjustPaintedColors
+    void ClickBrightnessAdj(int listIndex);  // cboBrightNessAdj
+    void ClickColorAdj(int element, int listIndex);  // cboColorAdj(element)
+    void AdjustColorsProceed(int index);     // cmdAdjustColorsProceed(0 Proceed, 1 Restore)
+
+    // --- Text (session_text.cpp) -------------------------------------------------------------
+    void ClickEffectsText();  // mnuEffectsText
+    void SetWriteText(const std::string& text);  // txbWriteText
+    void ClickTextWriteStyle(int index);
+    void ClickFontName(int index);
+    void ClickFontSize(int index);
+    void ClickFontStyle(int i);  // imgFontStyle(0 Bold, 1 Italic)
+    void ClickTextColor();
+    void TextAngleChanged(int value);  // HsbTextWriteSampleAngle
+    void AddTextProceed();             // cmdAddTextProceed
+
+    // --- Rotate at any angle (session_rotate_angle.cpp) -------------------------------------
+    void ClickRotateSelectAngle();  // mnuRotateSubmenu(4)
+    void RotateAngleSliderChanged(int value);  // hsrRotateAngle
+    void ClickRotateAngleList(int listIndex);  // cboRotateAngle
+    void ClickRotateAntiAlias(bool checked);   // ckbRotateAntiAlias
+    void RotateSelectAngleProceed();           // cmdRotateSelectAngleProceed
+
     // --- Status bar (session_status.cpp) ----------------------------------------------------
     // A fresh icon in the Editing Area: tools cleared, progress hidden, the status panels
     // written, the grid rebuilt, the undo history begun with the icon as it stands.
@@ -204,6 +225,23 @@ public:
     void ShowProgress(int percent, bool withNumber);
     void PointerOverForm();
 
+    // --- Settings and the file history (session_settings.cpp) ------------------------------
+    // The settings file's path, built afresh; empty when there is no settings folder.
+    std::string SettingsPath() const;
+    void ReadOptions();
+    // Writes each option whose stored value differs.
+    void WriteOptions();
+    // The stored folder if it still exists, else "".
+    std::string ReadLastFolder() const;
+    void WriteLastFolder(const std::string& folder);
+    // The stored place of the window in pixels (stored in twips); none when not stored.
+    std::optional<WindowPos> ReadScreenPos() const;
+    void WriteScreenPos(int left, int top);
+    void RefreshFileHistory();
+    void AddToFileHistory(const std::string& path);
+    // A click on mnuFileHistory(k), k from 1.
+    void ClickFileHistory(int k);
+
     // --- Icon files (session_files.cpp) -----------------------------------------------------
     // Puts an icon file into the current slot; true if the slot was filled.
     bool LoadIconFile(const std::string& path, bool askForImage);
@@ -213,7 +251,7 @@ public:
     bool SaveDialogFlow(int kind);
     std::string SuggestedSaveName() const;
     // What a save of the current slot writes with: alpha and true color as the slot says.
-    files::IconWriteOptions WriteOptions() const;
+    files::IconWriteOptions IconSaveOptions() const;
 
     // --- Multi-icon files, cursors, bitmaps (session_multi_icon.cpp, session_cursor_bitmap.cpp)
     // frmVexloMultiIcon chooses an image of path; openIt puts it in the Editing Area, else it
@@ -238,6 +276,15 @@ public:
     // Says "No icon in Editing Area yet" and answers false when there is none.
     bool NeedsIconInArea();
 
+    // --- Region, clipboard, flips, Shift Directions (session_region, _clipboard, _transform) --
+    void ClickEditSub(int i);        // mnuEditSub(0..9)
+    void ClickRotateSubmenu(int i);  // mnuRotateSubmenu(0..3)
+    void LiftRegion(bool seeThrough);
+    void RedrawFloatingRegion();
+    // The top left w x h of picture as a floating Region at cell (x, y), the Region tool on.
+    void PlaceFloatingPicture(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
+    void NudgeRegion(int dx, int dy);      // an arrow key on a floating Region: one cell
+    void ReleaseOnShiftPad(int x, int y);  // a release on picShiftDir
     // --- Animated cursor session (session_ani.cpp, session_ani_files.cpp, session_ani_frames.cpp)
     void mnuANIFileCreateOrEdit();
     // A click on cmdANI(k); a disabled button does nothing.
@@ -289,6 +336,11 @@ private:
     void mnuFileSaveMultiIconAddTo();
     void mnuFileSaveAsCursor();
     void mnuFileSaveAsBitmap();
+    // View/Edit/Create Alpha Channel and what the editor's answer does (session_alpha.cpp).
+    void AlphaViewEditCreate();
+    void FlattenAlpha(const host::AlphaEditorAnswer& answer);
+    bool KeepEditedAlpha(const host::AlphaEditorAnswer& answer);
+    bool AskYesNo(const std::string& text);
     // The Add face of frmVexloMultiIcon and the append; the file added to, or empty.
     std::string AddToFileDialog(const std::string& path, int c, int bits);
     void ShowSetMessage(const std::string& text, MsgIcon icon);
@@ -319,8 +371,23 @@ private:
     void RefreshDisplay() override;
     void ShowRegionMeasure();
     void ResetRegionState();
+    // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
+    friend class RegionToolView;
+    tools::RegionContext& Region() override { return m_regionTool; }
+    void CutRegion(bool copyFirst);
+    void CopyToClipboard();
+    void PasteClipboard(bool seeThrough);
+    void PutNewIcon(int sizeCode);  // File New's empty icon of the size, shown
+    void TransformIcon(Surface (*transform)(const Surface&), bool quarterTurn);
     void CreateColorCharts();
     void RunShadesPreview();
+    void OpenButtonize();
+    // The text picture handed over as the floating Region at the icon's top left, and what a
+    // press and a drag with the Region tool do to it (session_floating_text.cpp).
+    void HandOverTextRegion(const Surface& picture);
+    void RedrawFloatingText();
+    bool FloatingTextPressed(const tools::ToolEvent& e);
+    bool FloatingTextMoved(const tools::ToolEvent& e);
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);
@@ -348,9 +415,13 @@ private:
     IconsPanel m_panel;
     EditingView m_view;
     EffectsPanels m_effects;
+    FloatingRegion m_floating;
+    RegionToolView m_regionTool{*this};
+    ShiftPad m_shift;
     AniSession m_ani;
     IconsListSession m_list;
     FormState m_form;
+    FileHistoryMenu m_fileHistory;
     tools::DrawState m_draw;
     std::array<Surface, 3> m_charts;
     Color m_selectedColor = kWhite;
@@ -361,22 +432,5 @@ private:
     bool m_quitAtActivation = false;
     int m_pendingEventsDepth = 0;
 };
-
-// The three lines of the refusal of a second instance.
-std::string SecondInstanceText();
-// The question for a screen below 800x600.
-std::string SmallScreenQuestion(int width, int height);
-// The command line with every double quote removed.
-std::string CommandLinePath(const std::string& commandLine);
-// The last three characters upper-cased: "ICO", "CUR", "ANI" or anything else.
-std::string UpperExtension3(const std::string& path);
-
-struct WindowPos {
-    int Left = 0;
-    int Top = 0;
-};
-// Where the window goes on a screen of the given size; stored is null when none was stored.
-WindowPos PlaceWindow(int screenWidth, int screenHeight, int windowWidth, int windowHeight,
-                      const WindowPos* stored);
 
 }  // namespace vexlo::session

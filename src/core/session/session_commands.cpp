@@ -76,6 +76,8 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuFileSaveMultiIconAddTo", [](Session& s, int) { s.mnuFileSaveMultiIconAddTo(); }},
         {"mnuFileSaveAsCursor", [](Session& s, int) { s.mnuFileSaveAsCursor(); }},
         {"mnuFileSaveAsBitmap", [](Session& s, int) { s.mnuFileSaveAsBitmap(); }},
+        {"mnuFileHistory", [](Session& s, int i) { s.ClickFileHistory(i); }},
+        {"mnuAlphaViewEditCreate", [](Session& s, int) { s.AlphaViewEditCreate(); }},
         {"mnuOptionsGridline", [](Session& s, int i) { s.ClickGridline(i); }},
         {"mnuOptionsDisplayMask", [](Session& s, int) { s.ClickDisplayMask(); }},
         {"mnuOptionsPromptToSave",
@@ -84,6 +86,9 @@ bool Session::RunMenuItem(std::string_view name) {
          [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
         {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
+        {"mnuEffectsText", [](Session& s, int) { s.ClickEffectsText(); }},
+        {"mnuEffectsAdjustPaintedColors",
+         [](Session& s, int) { s.ClickEffectsAdjustPaintedColors(); }},
         {"mnuANIFileCreateOrEdit", [](Session& s, int) { s.mnuANIFileCreateOrEdit(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
@@ -103,12 +108,8 @@ bool Session::RunMenuItem(std::string_view name) {
              s.ClearTools();
              if (s.InArea()) s.host().NudgePointer();
          }},
-        {"mnuEditSub",
-         [](Session& s, int i) {
-             if (i == 0) s.UndoStep();
-             if (i == 1) s.UndoAll();
-             if (i == 2) s.RedoStep();
-         }},
+        {"mnuEditSub", [](Session& s, int i) { s.ClickEditSub(i); }},
+        {"mnuRotateSubmenu", [](Session& s, int i) { s.ClickRotateSubmenu(i); }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;

@@ -90,9 +90,11 @@ bool Session::LoadIconFile(const std::string& path, bool askForImage) {
         m_host.MsgBox(files::AlphaCopyFailedMessage(), MsgButtons::Ok, MsgIcon::Information, kTitle);
         s.HasAlpha = false;
     }
+    // IncomingAlpha only hands values over: the slot keeps its own copy now.
+    m_panel.IncomingAlpha().SetSingle();
     s.MultiIconFile = multi;
     ShowIcon();
-    // The file history takes the path once it exists.
+    AddToFileHistory(path);
     return true;
 }
 
@@ -113,7 +115,7 @@ void Session::OpenIconFile() {
     }
 }
 
-files::IconWriteOptions Session::WriteOptions() const {
+files::IconWriteOptions Session::IconSaveOptions() const {
     const IconSlot& s = Current();
     files::IconWriteOptions options;
     options.Alpha = s.BitsPerPixel == 32 && s.HasAlpha;
@@ -124,7 +126,7 @@ files::IconWriteOptions Session::WriteOptions() const {
 
 bool Session::SaveIconFile(const std::string& path, bool force256) {
     IconSlot& s = Current();
-    files::IconWriteOptions options = WriteOptions();
+    files::IconWriteOptions options = IconSaveOptions();
     options.Force256 = force256;
     if (!files::WriteIconFile(m_icon.Image(), m_icon.Mask(), path, options)) {
         const bool protectedFile = files::IsProtectedFile(path);
@@ -141,6 +143,7 @@ bool Session::SaveIconFile(const std::string& path, bool force256) {
     s.ClearFileState();
     StoreToPanel();
     RefreshStatusPanel();
+    AddToFileHistory(path);
     return true;
 }
 

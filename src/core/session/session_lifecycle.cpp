@@ -86,6 +86,8 @@ bool Session::Load(int screenWidth, int screenHeight) {
 CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
                                               bool* keepWorkingDir) {
     if (keepWorkingDir) *keepWorkingDir = false;
+    ReadOptions();
+    RefreshFileHistory();
     RefreshToolbar();
     ShowFrame(Frame::ColorsPanel);
     SwitchTo16ColorChart();

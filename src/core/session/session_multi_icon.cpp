@@ -75,6 +75,7 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
     s.MultiIconIndex = static_cast<std::int16_t>(index);
     s.ClearFileState();
     if (EnsureAlphaArray() && s.HasAlpha) CopyIncomingAlphaToSlot();
+    m_panel.IncomingAlpha().SetSingle();
     if (openIt) {
         s.InEditingArea = true;
         tools::CopyPicture(m_icon.ImageTemp(), m_icon.Image());
@@ -86,6 +87,7 @@ bool Session::ChooseImageOfFile(const std::string& path, bool openIt) {
         s.InEditingArea = false;
         m_panel.StoreToPanel(m_icon.ImageTemp(), m_icon.MaskTemp());
     }
+    AddToFileHistory(path);
     return true;
 }
 
@@ -96,7 +98,7 @@ void Session::mnuFileSaveMultiIconReplace() {
     const std::string path = s.FileSpec;
     const files::SetResult check =
         files::CheckReplaceTarget(path, s.MultiIconIndex, m_icon.Composed().Width(), m_icon.Composed().Height(),
-                                  s.ColorCount, s.BitsPerPixel, files::DepthToWrite(m_icon.Image(), WriteOptions()));
+                                  s.ColorCount, s.BitsPerPixel, files::DepthToWrite(m_icon.Image(), IconSaveOptions()));
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
@@ -109,7 +111,7 @@ void Session::mnuFileSaveMultiIconReplace() {
     const std::string target = m_host.ShowSave(request);
     if (target.empty()) return;
     m_currentPath = target;
-    const files::SetResult done = files::ReplaceIconInFile(m_icon.Image(), m_icon.Mask(), WriteOptions(), path,
+    const files::SetResult done = files::ReplaceIconInFile(m_icon.Image(), m_icon.Mask(), IconSaveOptions(), path,
                                                            s.MultiIconIndex, target,
                                                            files::PrivateTempDir(m_dirs.TempDir));
     if (!done) {
@@ -121,6 +123,7 @@ void Session::mnuFileSaveMultiIconReplace() {
     Current().NeverSaved = false;
     Current().Changed = false;
     RefreshStatusPanel();
+    AddToFileHistory(target);
 }
 
 void Session::mnuFileSaveMultiIconAddTo() {
@@ -135,7 +138,7 @@ void Session::mnuFileSaveMultiIconAddTo() {
     const int c = Current().ColorCount == -1 ? -1 : files::CountColors(m_icon.Image());
     const int bits = Current().BitsPerPixel;
     const files::SetResult check = files::CheckAddTarget(path, m_icon.Composed().Width(), m_icon.Composed().Height(),
-                                                         c, bits, files::DepthToWrite(m_icon.Image(), WriteOptions()));
+                                                         c, bits, files::DepthToWrite(m_icon.Image(), IconSaveOptions()));
     if (!check) {
         ShowSetMessage(check.Message, MsgIcon::None);
         return;
@@ -176,7 +179,7 @@ std::string Session::AddToFileDialog(const std::string& path, int c, int bits) {
         return {};
     }
     const files::SetResult done =
-        files::AppendIconToFile(m_icon.Image(), m_icon.Mask(), target, c, bits, WriteOptions(),
+        files::AppendIconToFile(m_icon.Image(), m_icon.Mask(), target, c, bits, IconSaveOptions(),
                                 files::PrivateTempDir(m_dirs.TempDir));
     if (!done) {
         ShowSetMessage(done.Message, MsgIcon::None);

@@ -91,7 +91,11 @@ void Session::FileNew(int entry) {
     if (m_ani.ContainerVisible() && entry != 0 && !AskTerminateAniSession(true)) return;
     if (m_form.VisibleFrame != Frame::ColorsPanel && !m_ani.ContainerVisible()) ShowFrame(Frame::ColorsPanel);
     if (!GuardReplaceCurrent()) return;
+    PutNewIcon(kSizeOfEntry[entry]);
+    SelectPaintTool();
+}
 
+void Session::PutNewIcon(int sizeCode) {
     IconSlot& s = Current();
     s.Occupied = true;
     s.SetKindText(kKindNewIcon);
@@ -104,7 +108,6 @@ void Session::FileNew(int entry) {
     s.ClearFileState();
     EnsureAlphaArray();
 
-    const int sizeCode = kSizeOfEntry[entry];
     s.SizeCode = static_cast<std::int16_t>(sizeCode);
     SetPanelSize(sizeCode);
     SetWorkSize(sizeCode);
@@ -113,7 +116,6 @@ void Session::FileNew(int entry) {
     StoreToPanel();
     ComposeIcon();
     ShowIcon();
-    SelectPaintTool();
 }
 
 void Session::FileOpen(int entry) {

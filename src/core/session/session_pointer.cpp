@@ -17,6 +17,7 @@ void Session::PointerPressed(Button button, int x, int y) {
     const tools::ToolEvent e = ToolEventAt(x, y, false);
     m_draw.CellX = e.CellX;
     m_draw.CellY = e.CellY;
+    if (FloatingTextPressed(e)) return;
     if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Press(*this, e);
 }
 
@@ -35,6 +36,7 @@ void Session::PointerMoved(int x, int y, bool modifierDown) {
     m_draw.CellY = e.CellY;
     PointerOverDisp(x, y);
     if (!AnyToolSelected()) return;
+    if (FloatingTextMoved(e)) return;
     if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Move(*this, e);
 }
 

@@ -4,10 +4,11 @@
 namespace vexlo::session {
 
 void Session::ClickEffectsSub(int index) {
-    if (index < 1 || index > 7) return;  // 0, Buttonize, has a frame of its own
+    if (index < 0 || index > 7) return;
     if (!NeedsIconInArea()) return;
     ClearTools();
     ResetDrawState();
+    if (index == 0) return OpenButtonize();  // Buttonize has a frame of its own
     if (!effects::ShadesFrameOf(index)) return;
     ShowFrame(Frame::EffectsShades);
     m_formLoading = true;

@@ -43,6 +43,12 @@ void Session::ClickTool(Tool tool) {
         m_form.SelectedTool = tool;
     }
     ResetDrawState();
+    if (tool == Tool::Shift && m_form.SelectedTool == Tool::Shift) {
+        // Shift Directions starts a history of its own and keeps the picture it reads from.
+        ClearUndoHistory();
+        TakeUndoSnapshot();
+        m_shift.Begin(m_icon.Composed());
+    }
 }
 
 void Session::ClickColorPicker() {

@@ -6,8 +6,8 @@
 //
 // The kinds: freehand (Paint, Erase: plotted at every point of a drag), two-point shapes
 // (lines, boxes, ovals, the Spotlight: a dotted band while dragging, plotted on release) and
-// one-click tools (Fill, Replace Color: on release). Region and Shift have their rows, with
-// no strategy yet.
+// one-click tools (Fill, Replace Color: on release), and the Region (region_tool.cpp). Shift
+// Directions works on its own pad, not on the Editing Area, and has no strategy.
 #include <functional>
 
 #include "core/surface/surface.h"
@@ -18,6 +18,8 @@ namespace vexlo::tools {
 
 using surface::Color;
 using surface::Surface;
+
+class RegionContext;  // region_tool.h
 
 // Where the pointer is: picDisp pixels, the icon cell under them, and the modifier keys.
 struct ToolEvent {
@@ -57,6 +59,8 @@ public:
     // picDisp changed on the screen.
     virtual void RefreshDisplay() = 0;
     virtual void LetPendingEventsRun() = 0;
+    // The Region and its floating picture (region_tool.h).
+    virtual RegionContext& Region() = 0;
 };
 
 class ToolStrategy {

@@ -11,6 +11,7 @@ const ToolStrategy& EraseTool();         // freehand_tool.cpp
 const ToolStrategy& FillTool();          // click_tool.cpp
 const ToolStrategy& ReplaceColorTool();  // click_tool.cpp
 const ToolStrategy& ShapeTool(Tool tool);  // shape_tool.cpp: lines, boxes, ovals, Spotlight
+const ToolStrategy& RegionTool();          // region_tool.cpp
 
 namespace {
 
@@ -32,7 +33,7 @@ const std::array<Row, kToolCount>& Table() {
         {Tool::FilledRectangle, &ShapeTool(Tool::FilledRectangle)},
         {Tool::Oval, &ShapeTool(Tool::Oval)},
         {Tool::FilledOval, &ShapeTool(Tool::FilledOval)},
-        {Tool::Region, nullptr},
+        {Tool::Region, &RegionTool()},
         {Tool::Shift, nullptr},
     }};
     return kRows;

@@ -9,6 +9,7 @@
 #include <QScreen>
 
 #include "gui/files/icon_list_box.h"
+#include "gui/platform/picture_frame.h"
 #include "gui/platform/surface_view.h"
 #include "gui/platform/system_info.h"
 
@@ -62,16 +63,6 @@ QLabel* MakePathLabel(const char* caption, QWidget* parent) {
     return label;
 }
 
-// A picture box of back color 0xC0C0C0 on which a SurfaceView is centred.
-QLabel* MakePictureFrame(QWidget* parent) {
-    auto* frame = new QLabel(parent);
-    frame->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    frame->setAutoFillBackground(true);
-    QPalette pal = frame->palette();
-    pal.setColor(QPalette::Window, QColor(0xC0, 0xC0, 0xC0));
-    frame->setPalette(pal);
-    return frame;
-}
 
 }  // namespace
 

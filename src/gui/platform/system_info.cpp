@@ -58,6 +58,12 @@ std::string DesktopDirectory() {
     return QDir::cleanPath(path).toStdString();
 }
 
+std::string ConfigDirectory() {
+    const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    if (base.isEmpty()) return {};
+    return QDir::cleanPath(base).toStdString() + "/vexlo/";
+}
+
 std::string ProgramDirectory() { return QCoreApplication::applicationDirPath().toStdString(); }
 
 }  // namespace vexlo::platform

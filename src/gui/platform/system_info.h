@@ -28,6 +28,9 @@ std::string SystemDirectory();
 std::string TempDirectory();
 // The XDG desktop folder, without a trailing "/"; empty when it does not exist.
 std::string DesktopDirectory();
+// Where the settings file lives: "vexlo/" in the XDG config folder, with a trailing "/"; empty
+// when the platform names no config folder.
+std::string ConfigDirectory();
 // App.Path: the folder of the program's executable, without a trailing "/".
 std::string ProgramDirectory();
 

@@ -1,6 +1,8 @@
 // The main window's life: construction, the load, the first activation and the exit.
 #include "gui/shell/frm_vexlo.h"
 
+#include <optional>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -25,6 +27,7 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     setWindowTitle("Vexlo");
     // The layout is fixed: nothing to gain from a larger window.
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    setAcceptDrops(true);
     m_host.SetRefreshDisplay([this] {
         if (picDisp) picDisp->update();
     });
@@ -45,14 +48,16 @@ bool FrmVexlo::LoadForm() {
     dirs.SystemDir = platform::SystemDirectory();
     dirs.TempDir = platform::TempDirectory();
     dirs.ProgramDir = platform::ProgramDirectory();
+    dirs.ConfigDir = platform::ConfigDirectory();
     m_session.SetDirectories(dirs);
     if (!go) return false;
-    // No position is stored yet: the window is placed by the screen's size alone.
-    const session::WindowPos pos =
-        session::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight, nullptr);
+    const std::optional<session::WindowPos> stored = m_session.ReadScreenPos();
+    const session::WindowPos pos = session::PlaceWindow(screen.width, screen.height, kFormWidth, kFormHeight,
+                                                        stored ? &*stored : nullptr);
     setFixedSize(kFormWidth, kFormHeight);
     move(pos.Left, pos.Top);
-    dirs.LastFolder = dirs.ProgramDir;
+    dirs.LastFolder = m_session.ReadLastFolder();
+    if (dirs.LastFolder.empty()) dirs.LastFolder = dirs.ProgramDir;
     dirs.DesktopFolder = platform::DesktopDirectory();
     dirs.SystemFolder = platform::SystemDirectory();
     m_session.SetDirectories(dirs);
@@ -100,9 +105,10 @@ void FrmVexlo::FirstActivate() {
     // a second time from there.
     if (!m_session.FirstActivation() || m_activating) return;
     m_activating = true;
-    LayOutIconAndMask();
     bool keepWorkingDir = false;
+    // The options read first decide whether the mask is shown beside the icon.
     m_session.RunFirstActivation(m_commandLine, &keepWorkingDir);
+    LayOutIconAndMask();
     if (!keepWorkingDir) QDir::setCurrent(QString::fromStdString(m_session.Dirs().ProgramDir));
     m_activating = false;
     SyncFromModel();
@@ -112,6 +118,11 @@ void FrmVexlo::closeEvent(QCloseEvent* event) {
     if (!m_session.QuitAtActivation() && !m_session.QueryExit()) {
         event->ignore();
         return;
+    }
+    if (!m_session.QuitAtActivation()) {
+        if (!isMinimized()) m_session.WriteScreenPos(x(), y());
+        m_session.WriteOptions();
+        m_session.WriteLastFolder(m_session.Dirs().LastFolder);
     }
     m_session.EndAniSessionAtExit();
     event->accept();

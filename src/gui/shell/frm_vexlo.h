@@ -27,6 +27,10 @@ namespace vexlo::gui {
 class AniContainerView;
 class ElidedLabel;
 class SurfaceView;
+class ButtonizeFrame;
+class AdjustColorsFrame;
+class TextFrame;
+class RotateAngleFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -106,6 +110,13 @@ public:
     std::array<QPushButton*, 2> cmdShadesProceed{};
     // Inside fraSaveAsCursor.
     std::array<QComboBox*, 2> cboCursorHotSpot{};
+    // The Shift Directions pad.
+    SurfaceView* picShiftDir = nullptr;
+    // fraButtonize, fraAdjustPaintedColors, fraText, fraRotateSelectAngle and their controls.
+    ButtonizeFrame* fraButtonize = nullptr;
+    AdjustColorsFrame* fraAdjustPaintedColors = nullptr;
+    TextFrame* fraText = nullptr;
+    RotateAngleFrame* fraRotateSelectAngle = nullptr;
     // The animated cursor session's container over the panel frames (gui/ani).
     AniContainerView* picANIContainer = nullptr;
 
@@ -117,6 +128,10 @@ protected:
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // A file dropped on the window opens as its File Open item would (frm_vexlo_drop.cpp).
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void BuildLayout();
@@ -133,6 +148,9 @@ private:
     void BuildSaveAsCursorFrame(QFrame* frame);
     void SyncSaveAsCursor();
     void SyncPointer();
+    // The Shift Directions pad with its caption at padAt, the keys of picDisp that move and
+    // erase a floating Region, and the toolbar following the clipboard (frm_vexlo_region.cpp).
+    void BuildRegionControls(QWidget* parent, QPoint padAt);
     // Runs an item chosen from the menu, from its shortcut or from the toolbar.
     void RunItem(std::string_view name);
     // The enable rules of one top menu, run as it drops down.

@@ -7,6 +7,10 @@
 #include <QStatusBar>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/effects/frm_vexlo_adjust_colors.h"
+#include "gui/effects/frm_vexlo_buttonize.h"
+#include "gui/effects/frm_vexlo_rotate_angle.h"
+#include "gui/effects/frm_vexlo_text.h"
 #include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
@@ -58,7 +62,7 @@ QPixmap AlphaPicture() {
 
 const char* const kFrameCaptions[] = {
     "", "Colors", "Gradient", "Print", "Save As Cursor", "Search EXE Files", "Text", "Icons List",
-    "Adjust Painted Colors", "Buttonize", "Rotate", "Effects", "Confine To Mono"};
+    "Adjust painted colors", "Buttonize", "Rotate image (-359 to +359)", "Effects", "Confine To Mono"};
 
 }  // namespace
 
@@ -89,6 +93,7 @@ void FrmVexlo::BuildLayout() {
     picMask = new SurfaceView(&m_session.Icon().Mask(), m_form);
     picMask->setObjectName("picMask");
     LayOutIconAndMask();
+    BuildRegionControls(m_form, QPoint(kRightLeft + 140, kDispTop));
 
     for (int f = static_cast<int>(session::Frame::ColorsPanel);
          f <= static_cast<int>(session::Frame::ConfineToMono); ++f) {
@@ -109,6 +114,10 @@ void FrmVexlo::BuildLayout() {
     BuildColorsPanel(Frames[session::Frame::ColorsPanel]);
     BuildShadesFrame(Frames[session::Frame::EffectsShades]);
     BuildSaveAsCursorFrame(Frames[session::Frame::SaveAsCursor]);
+    fraButtonize = new ButtonizeFrame(*this, Frames[session::Frame::Buttonize]);
+    fraAdjustPaintedColors = new AdjustColorsFrame(*this, Frames[session::Frame::AdjustPaintedColors]);
+    fraText = new TextFrame(*this, Frames[session::Frame::Text]);
+    fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
     // picFraContainer, where the container moves, begins 40 pixels above the panel frames.
     picANIContainer = new AniContainerView(*this, m_form, QPoint(kRightLeft - 1, kFramesTop - session::kAniContainerTop));
 

@@ -5,6 +5,10 @@
 #include <QToolButton>
 
 #include "gui/shell/frm_vexlo.h"
+#include "gui/effects/frm_vexlo_adjust_colors.h"
+#include "gui/effects/frm_vexlo_buttonize.h"
+#include "gui/effects/frm_vexlo_rotate_angle.h"
+#include "gui/effects/frm_vexlo_text.h"
 #include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
@@ -50,6 +54,14 @@ void FrmVexlo::SyncFromModel() {
     Item("mnuPaletteSub(1)")->setChecked(form.PaletteMode == 1);
     for (int i = 0; i < 6; ++i)
         Item("mnuBrushSize(" + std::to_string(i) + ")")->setChecked(form.BrushSizeIndex == i);
+    const session::FileHistoryMenu& history = m_session.FileHistory();
+    for (int i = 0; i <= session::kHistoryEntries; ++i) {
+        QAction* entry = Item("mnuFileHistory(" + std::to_string(i) + ")");
+        const auto k = static_cast<std::size_t>(i);
+        if (i > 0) entry->setText(QString::fromStdString(history.Caption[k]));
+        entry->setVisible(history.Visible[k]);
+        entry->setEnabled(history.Enabled[k]);
+    }
     for (int k = 0; k < session::kToolbarCommands; ++k)
         if (!session::ToolbarButtonFixed(k))
             cmdTB[static_cast<std::size_t>(k)]->setEnabled(
@@ -59,6 +71,10 @@ void FrmVexlo::SyncFromModel() {
     SyncColorsPanel();
     SyncShades();
     SyncSaveAsCursor();
+    fraButtonize->Sync();
+    fraAdjustPaintedColors->Sync();
+    fraText->Sync();
+    fraRotateSelectAngle->Sync();
     picANIContainer->Sync();
     SyncStatus();
 }

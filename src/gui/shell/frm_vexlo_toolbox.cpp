@@ -65,6 +65,9 @@ void FrmVexlo::BuildToolbox(QWidget* row) {
     connect(picDisp, &SurfaceView::Moved, this,
             [this](Qt::MouseButtons, Qt::KeyboardModifiers m, int x, int y) {
                 m_session.PointerMoved(x, y, ModifierDown(m));
+                // A drag may have changed the planes (Paint, Erase, a floating Region).
+                picIcon->update();
+                picMask->update();
                 SyncStatus();
                 SyncPointer();
             });

@@ -11,9 +11,12 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include "gui/platform/clipboard.h"
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
+#include "gui/alpha/frm_vexlo_alpha.h"
+#include "gui/platform/text_drawing.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
 #include "gui/utilities/cls_vexlo_dialog.h"
 #include "gui/utilities/frm_dir_dialog.h"
@@ -67,10 +70,23 @@ host::MultiIconAnswer WindowHost::ShowMultiIcon(const std::string& fileSpec, int
                                        addDescription);
 }
 
-bool WindowHost::ClipboardHasBitmap() {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage();
+host::AlphaEditorAnswer WindowHost::ShowAlphaEditor(const host::AlphaEditorRequest& request) {
+    return gui::frmVexloAlpha::Run(*this, request, QApplication::activeWindow());
 }
+
+bool WindowHost::ClipboardHasBitmap() { return ClipboardHasPicture(); }
+
+host::ClipboardPicture WindowHost::ClipboardPictureInfo() { return platform::ClipboardPictureInfo(); }
+
+bool WindowHost::ReadClipboardPicture(int w, int h, surface::Surface& out) {
+    return platform::ReadClipboardPicture(w, h, out);
+}
+
+void WindowHost::SetClipboardPicture(const surface::Surface& picture, const surface::Surface& holes) {
+    PutPictureOnClipboard(picture, holes);
+}
+
+void WindowHost::ClearClipboard() { platform::ClearClipboard(); }
 
 void WindowHost::RefreshDisplay() {
     if (m_refresh) m_refresh();
@@ -82,6 +98,11 @@ clsVexloDialog& WindowHost::Dialog() {
 }
 
 std::string WindowHost::ShowOpen(const utilities::OpenRequest& request) {
+    if (m_nextOpen) {
+        std::string path = std::move(*m_nextOpen);
+        m_nextOpen.reset();
+        return path;
+    }
     return Dialog().ShowOpen(request);
 }
 
@@ -108,6 +129,17 @@ std::string WindowHost::GetFolderSpec(const std::string& pattern, const std::str
     const QString start = QString::fromStdString(startFolder);
     if (!start.isEmpty() && QFileInfo(start).isDir()) QDir::setCurrent(start);
     return gui::frmDirDialog::Ask(pattern, std::string(), false, QApplication::activeWindow());
+}
+
+std::vector<std::string> WindowHost::ScreenFonts() { return platform::ScreenFontFamilies(); }
+
+std::string WindowHost::FontFamilyUsed(const std::string& name) {
+    return platform::FontFamilyUsed(name);
+}
+
+bool WindowHost::DrawText(const host::TextFont& font, const std::string& text, bool hollow,
+                          surface::Color color, surface::Color back, surface::Surface& out) {
+    return platform::DrawTextPicture(font, text, hollow, color, back, out);
 }
 
 }  // namespace vexlo::gui

@@ -4,7 +4,9 @@
 // folder dialog (each replaceable through platform/dialog_handlers.h).
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/host/host.h"
 
@@ -31,11 +33,17 @@ public:
     // stands at 0) and back, so that the widget under it updates its pointer shape.
     void NudgePointer() override;
     bool ClipboardHasBitmap() override;
+    // The clipboard's pictures through platform/clipboard.h.
+    host::ClipboardPicture ClipboardPictureInfo() override;
+    bool ReadClipboardPicture(int w, int h, surface::Surface& out) override;
+    void SetClipboardPicture(const surface::Surface& picture, const surface::Surface& holes) override;
+    void ClearClipboard() override;
     // Qt's image readers: BMP, GIF, JPEG, PNG and the others installed.
     bool LoadPicture(const std::string& path, surface::Surface& out) override;
     host::MultiIconAnswer ShowMultiIcon(const std::string& fileSpec, int addMode,
                                          const surface::Surface* iconToAdd,
                                          const std::string& addDescription) override;
+    host::AlphaEditorAnswer ShowAlphaEditor(const host::AlphaEditorRequest& request) override;
 
     std::string ShowOpen(const utilities::OpenRequest& request) override;
     std::string ShowSave(const utilities::SaveRequest& request) override;
@@ -45,6 +53,16 @@ public:
     // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
     // not extendable. The folder chosen, or "".
     std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+    // Text through Qt without smoothing (platform/text_drawing.h).
+    std::vector<std::string> ScreenFonts() override;
+    std::string FontFamilyUsed(const std::string& name) override;
+    bool DrawText(const host::TextFont& font, const std::string& text, bool hollow,
+                  surface::Color color, surface::Color back, surface::Surface& out) override;
+
+    // The next open dialog is not shown: it answers path at once, as for a file dropped on the
+    // window. ClearNextOpen drops an answer that no dialog took.
+    void AnswerNextOpen(std::string path) { m_nextOpen = std::move(path); }
+    void ClearNextOpen() { m_nextOpen.reset(); }
 
     // What RefreshDisplay calls; set by the window that shows the Editing Area.
     void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
@@ -56,6 +74,7 @@ private:
     int m_hourglassDepth = 0;
     std::function<void()> m_refresh;
     std::unique_ptr<clsVexloDialog> m_dialog;
+    std::optional<std::string> m_nextOpen;
 };
 
 }  // namespace vexlo::gui

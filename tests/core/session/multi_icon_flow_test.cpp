@@ -291,7 +291,9 @@ TEST_F(MultiIconFlowTest, AChoiceWithoutAlphaValuesLeavesNoneOfAnEarlierRead) {
     WriteFileBytes(Path("alpha.ico"), files::BuildIconFileBytes(image, mask, withAlpha));
     host.AnswerOpen(Path("alpha.ico"));
     s.RunMenuItem("mnuFileOpen(0)");
-    ASSERT_EQ(s.Panel().IncomingAlpha().UpperBound(), 31);
+    // The slot keeps the values; the hand-over array is emptied after each load.
+    ASSERT_EQ(s.Panel().SlotAlpha().UpperBound(), 31);
+    ASSERT_TRUE(s.Panel().IncomingAlpha().IsSingle());
 
     host.AnswerOpen(Path("multi.ico"));
     host.AnswerMultiIcon(Choice(1, "01/32/256/8"));  // a color-table image: no alpha values
@@ -301,7 +303,9 @@ TEST_F(MultiIconFlowTest, AChoiceWithoutAlphaValuesLeavesNoneOfAnEarlierRead) {
     // A 32-bit choice that hands over no alpha values is kept at 24 bits.
     host.AnswerOpen(Path("alpha.ico"));
     s.RunMenuItem("mnuFileOpen(0)");
-    ASSERT_EQ(s.Panel().IncomingAlpha().UpperBound(), 31);
+    // The slot keeps the values; the hand-over array is emptied after each load.
+    ASSERT_EQ(s.Panel().SlotAlpha().UpperBound(), 31);
+    ASSERT_TRUE(s.Panel().IncomingAlpha().IsSingle());
     host.AnswerOpen(Path("multi.ico"));
     host.AnswerMultiIcon(Choice(1, "01/32/-1/32"));
     s.RunMenuItem("mnuFileOpen(0)");

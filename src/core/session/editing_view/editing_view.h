@@ -4,19 +4,15 @@
 // of a shape tool being dragged.
 #include "core/surface/surface.h"
 #include "core/tools/editing_area.h"
+#include "core/tools/region_geometry.h"
 
 namespace vexlo::session {
 
 using surface::Color;
 using surface::Surface;
 
-// The Region as the view outlines it.
-struct RegionMarks {
-    bool Exists = false;
-    bool EdgeDragged = false;
-    tools::DispRect Rect;    // in picDisp pixels
-    tools::CellRect Cells;   // in icon cells
-};
+// The Region as the view outlines it (core/tools/region_geometry.h).
+using tools::RegionMarks;
 
 class EditingView {
 public:

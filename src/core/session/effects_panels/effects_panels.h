@@ -6,6 +6,10 @@
 #include <string>
 
 #include "core/effects/shades.h"
+#include "core/session/effects_panels/adjust_colors_panel.h"
+#include "core/session/effects_panels/buttonize_panel.h"
+#include "core/session/effects_panels/rotate_angle_panel.h"
+#include "core/session/effects_panels/text_panel.h"
 
 namespace vexlo::session {
 
@@ -41,8 +45,23 @@ public:
     // Leaving the frame by any way discards the preview.
     void DiscardPreviews() { m_shades.Preview.reset(); }
 
+    // fraButtonize, fraAdjustPaintedColors, fraText (with the text floating after Proceed)
+    // and fraRotateSelectAngle.
+    ButtonizePanel& Buttonize() { return m_buttonize; }
+    const ButtonizePanel& Buttonize() const { return m_buttonize; }
+    AdjustColorsPanel& AdjustColors() { return m_adjustColors; }
+    const AdjustColorsPanel& AdjustColors() const { return m_adjustColors; }
+    TextPanel& Text() { return m_text; }
+    const TextPanel& Text() const { return m_text; }
+    RotateAnglePanel& RotateAngle() { return m_rotateAngle; }
+    const RotateAnglePanel& RotateAngle() const { return m_rotateAngle; }
+
 private:
     ShadesState m_shades;
+    ButtonizePanel m_buttonize;
+    AdjustColorsPanel m_adjustColors;
+    TextPanel m_text;
+    RotateAnglePanel m_rotateAngle;
 };
 
 }  // namespace vexlo::session

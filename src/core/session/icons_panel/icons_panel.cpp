@@ -63,15 +63,35 @@ bool IconsPanel::EnsureAlphaArray() {
     return false;
 }
 
-bool IconsPanel::CopyIncomingAlphaToSlot() {
-    const int side = IconSideOf(Current().SizeCode);
-    alpha::AlphaArray& slot = SlotAlpha();
-    if (side == 0 || m_incoming.IsSingle() || m_incoming.UpperBound() != side - 1 ||
-        slot.IsSingle() || slot.UpperBound() != side - 1)
-        return false;
+namespace {
+
+bool FitsSide(const alpha::AlphaArray& a, int side) {
+    return side != 0 && !a.IsSingle() && a.UpperBound() == side - 1;
+}
+
+// Both arrays of the slot's side: every value copied, x outer, y inner.
+bool CopyValues(const alpha::AlphaArray& from, alpha::AlphaArray& to, int side) {
+    if (!FitsSide(from, side) || !FitsSide(to, side)) return false;
     for (int x = 0; x < side; ++x)
-        for (int y = 0; y < side; ++y) slot.At(x, y) = m_incoming.At(x, y);
+        for (int y = 0; y < side; ++y) to.At(x, y) = from.At(x, y);
     return true;
+}
+
+}  // namespace
+
+bool IconsPanel::CopyIncomingAlphaToSlot() {
+    return CopyValues(m_incoming, SlotAlpha(), IconSideOf(Current().SizeCode));
+}
+
+bool IconsPanel::CopySlotAlphaToIncoming() {
+    if (!Current().InEditingArea) return false;
+    return CopyValues(SlotAlpha(), m_incoming, IconSideOf(Current().SizeCode));
+}
+
+bool IconsPanel::SlotAlphaUsable() const {
+    const IconSlot& s = Current();
+    return s.Occupied && s.ColorCount == -1 && s.BitsPerPixel == 32 && s.HasAlpha &&
+           FitsSide(SlotAlpha(), IconSideOf(s.SizeCode));
 }
 
 }  // namespace vexlo::session

@@ -58,6 +58,12 @@ public:
     bool EnsureAlphaArray();
     // CopyIncomingAlphaToSlot: false unless both arrays fit the open slot's side.
     bool CopyIncomingAlphaToSlot();
+    // CopySlotAlphaToIncoming: the other way, for an icon in the Editing Area; false unless
+    // both arrays fit the open slot's side.
+    bool CopySlotAlphaToIncoming();
+    // SlotAlphaUsable: the open slot holds a true-color 32-bit icon with alpha, of a known
+    // size, and its alpha array has the values for that size.
+    bool SlotAlphaUsable() const;
 
 private:
     static std::size_t Index(int k) { return static_cast<std::size_t>(k); }
