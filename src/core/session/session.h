@@ -285,33 +285,20 @@ public:
     void PlaceFloatingPicture(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
     void NudgeRegion(int dx, int dy);      // an arrow key on a floating Region: one cell
     void ReleaseOnShiftPad(int x, int y);  // a release on picShiftDir
-    // --- Animated cursor session (session_ani.cpp, session_ani_files.cpp, session_ani_frames.cpp)
+    // --- Animated cursor session (session_ani*.cpp); a disabled cmdANI(k) does nothing -----
     void mnuANIFileCreateOrEdit();
-    // A click on cmdANI(k); a disabled button does nothing.
     void ClickAniButton(int k);
-    // cboANI(k) set to value, ckbJIFSinglely ticked or not; nothing else changes with them.
-    void ChooseAniBox(int k, int value);
-    void ClickAniSingly(bool checked);
-    // The pointer on the film (x, y in picFilm's pixels) or on the container (in the pixels of
-    // picFraContainer, where the container stands).
+    void ChooseAniBox(int k, int value);  // cboANI(k): read only at Set, New and Save
+    void ClickAniSingly(bool checked);    // ckbJIFSinglely
+    // x, y in picFilm's pixels, or in picFraContainer's for the container.
     void AniPointerEvent(AniPointer what, int x, int y);
-    // A change or scroll of VsrANISeries.
-    void ScrollAniSeries(int value);
-    // Timer1 has run its interval: the animation test's next frame. True when picANITest
-    // changed. Runs also while pending events run: it touches only the test's picture.
+    void ScrollAniSeries(int value);  // VsrANISeries
+    // Timer1's tick (also while pending events run); true when picANITest changed.
     bool AniTimerTick();
     void SetAniTimer(AniTimer* timer) { m_ani.Test().SetTimer(timer); }
-    void ResetAniSession();
-    void DeleteAniTempFiles();
-    // The question of the commands that end a visible ANI session (File Open, the extractions,
-    // the capture, the alpha editor; only32 for File New of a size other than 32x32). True
-    // when there is no session to end or the user let it end (it then has).
+    // The question of the commands that end a visible session; true if it may end (and has).
     bool AskTerminateAniSession(bool only32);
-    // An ANI file named on the command line: a fresh session in the container, closed again
-    // when the file can't be loaded. True if loaded.
-    bool OpenAniFromCommandLine(const std::string& path);
-    // The exit: the test stopped, the frames and the temporary frame files gone.
-    void EndAniSessionAtExit();
+    void EndAniSessionAtExit();  // the test stopped, frames and temporary frame files gone
 
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
@@ -391,19 +378,11 @@ private:
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);
-    // The animated cursor session's own steps (session_ani*.cpp).
-    bool RunAniAction(int k);
-    bool AskAniDiscard();
-    void CloseAniSession();
-    void TerminateAniSession();
-    bool FileDialogOpenANI();
-    bool LoadAniFile(const std::string& path);
-    bool SaveANIFile();
-    bool LoadIconFileToFrame();
-    bool AniFromEditingArea();
-    bool AniToEditingArea();
-    bool AddAniFrame(bool above);
-    void RemoveAniFrame();
+    // The animated cursor session's steps (session_ani*.cpp, session_ani_steps.h).
+    friend struct AniSteps;
+    void TerminateAniSession();  // its temporary files deleted, reset, container hidden
+    bool AskAniDiscard();        // true unless frames are unsaved and the user keeps them
+    bool OpenAniFromCommandLine(const std::string& path);
     // Lets the platform run pending events (DoEvents), with Busy() true meanwhile.
     void LetPendingEventsRun() override;
     // Every entry from the window starts here: none may start while pending events run in

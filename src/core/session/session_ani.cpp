@@ -4,7 +4,7 @@
 #include "core/ani/ani_save.h"
 #include "core/files/private_temp.h"
 #include "core/session/ani_frames/ani_texts.h"
-#include "core/session/session.h"
+#include "core/session/session_ani_steps.h"
 
 namespace vexlo::session {
 
@@ -16,7 +16,7 @@ void Session::mnuANIFileCreateOrEdit() {
     }
     if (InArea() && (Current().Changed || Current().NeverSaved) && !AskSaveCurrent()) return;
     if (m_form.VisibleFrame != Frame::ColorsPanel) ShowFrame(Frame::ColorsPanel);
-    ResetAniSession();
+    AniSteps::ResetAniSession(*this);
     m_ani.ShowContainer();
 }
 
@@ -25,57 +25,57 @@ void Session::ClickAniButton(int k) {
     if (!m_ani.ButtonEnabled(k)) return;
     if (k == 7 && !m_ani.CurrentRow()) return;
     if (k != 8 && m_ani.Test().Caption() == kAniStopCaption) m_ani.Test().Stop();
-    if (!RunAniAction(k) || k < 10) return;
+    if (!AniSteps::RunAniAction(*this, k) || k < 10) return;
     if (k != 11 && k != 12 && k != 16) m_ani.ScrollCurrentIntoView();
     m_ani.RefreshButtons();
 }
 
 // The action of cmdANI(k); false when it stopped early.
-bool Session::RunAniAction(int k) {
+bool AniSteps::RunAniAction(Session& s, int k) {
     switch (k) {
         case 0:
-        case 6: CloseAniSession(); return true;
-        case 1: m_ani.Container().Resize(); return true;
-        case 2: m_ani.Container().Minimize(); return true;
+        case 6: CloseAniSession(s); return true;
+        case 1: s.m_ani.Container().Resize(); return true;
+        case 2: s.m_ani.Container().Minimize(); return true;
         case 3:
-            if (!AskAniDiscard()) return false;
-            m_ani.StartNew();
-            m_form.Status.Panel[0] = kUntitled;
+            if (!s.AskAniDiscard()) return false;
+            s.m_ani.StartNew();
+            s.m_form.Status.Panel[0] = kUntitled;
             return true;
         case 4:
-            if (!AskAniDiscard()) return false;
-            if (FileDialogOpenANI()) m_ani.SetDirty(false);
+            if (!s.AskAniDiscard()) return false;
+            if (FileDialogOpenANI(s)) s.m_ani.SetDirty(false);
             return true;
         case 5:
-            if (SaveANIFile()) m_ani.SetDirty(false);
+            if (SaveANIFile(s)) s.m_ani.SetDirty(false);
             return true;
         case 7:
-            if (m_ani.SetJiffies() && !m_ani.Boxes().Singly)
-                m_host.MsgBox(kAniJiffiesSetForAll, MsgButtons::Ok, MsgIcon::None, kTitle);
+            if (s.m_ani.SetJiffies() && !s.m_ani.Boxes().Singly)
+                s.m_host.MsgBox(kAniJiffiesSetForAll, MsgButtons::Ok, MsgIcon::None, kTitle);
             return true;
         case 8:
-            m_ani.Test().Toggle();
-            LetPendingEventsRun();
+            s.m_ani.Test().Toggle();
+            s.LetPendingEventsRun();
             return true;
         case 9: {
-            const ani::AniFrameRecord* row = m_ani.CurrentRow();
-            const auto& rows = m_ani.Frames().AniFrames;
+            const ani::AniFrameRecord* row = s.m_ani.CurrentRow();
+            const auto& rows = s.m_ani.Frames().AniFrames;
             const ani::AniFrameRecord first = rows.empty() ? ani::AniFrameRecord{} : rows.front();
-            m_host.MsgBox(AniFramePropertyText(m_ani.CurrentFrame(), row ? row->Jiffies : 0, m_ani.FrameCount(),
+            s.m_host.MsgBox(AniFramePropertyText(s.m_ani.CurrentFrame(), row ? row->Jiffies : 0, s.m_ani.FrameCount(),
                                                first.HotX, first.HotY),
                           MsgButtons::Ok, MsgIcon::None, kTitle);
             return true;
         }
-        case 10: return AniFromEditingArea();
-        case 11: return AniToEditingArea();
-        case 12: return AddAniFrame(false);
-        case 13: return AddAniFrame(true);
-        case 14: RemoveAniFrame(); return true;
-        case 15: return LoadIconFileToFrame();
-        case 16: return m_ani.Shift(true);
-        case 17: return m_ani.Shift(false);
-        case 18: return m_ani.Go(true);
-        case 19: return m_ani.Go(false);
+        case 10: return AniFromEditingArea(s);
+        case 11: return AniToEditingArea(s);
+        case 12: return AddAniFrame(s, false);
+        case 13: return AddAniFrame(s, true);
+        case 14: RemoveAniFrame(s); return true;
+        case 15: return LoadIconFileToFrame(s);
+        case 16: return s.m_ani.Shift(true);
+        case 17: return s.m_ani.Shift(false);
+        case 18: return s.m_ani.Go(true);
+        case 19: return s.m_ani.Go(false);
         default: return false;
     }
 }
@@ -85,11 +85,11 @@ bool Session::AskAniDiscard() {
     return m_host.MsgBox(kAniDiscardQuestion, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::Yes;
 }
 
-void Session::CloseAniSession() {
-    if (!AskAniDiscard()) return;
-    m_ani.HideContainer();
-    m_form.Status.Panel[0] = Current().FileSpec;
-    RefreshPaletteMenu();
+void AniSteps::CloseAniSession(Session& s) {
+    if (!s.AskAniDiscard()) return;
+    s.m_ani.HideContainer();
+    s.m_form.Status.Panel[0] = s.Current().FileSpec;
+    s.RefreshPaletteMenu();
 }
 
 void Session::ChooseAniBox(int k, int value) {
@@ -126,24 +126,24 @@ void Session::ScrollAniSeries(int value) {
 
 bool Session::AniTimerTick() { return m_ani.Test().Tick(m_ani.Frames()); }
 
-void Session::ResetAniSession() {
-    m_ani.Reset();
-    m_form.Status.Panel[0].clear();
+void AniSteps::ResetAniSession(Session& s) {
+    s.m_ani.Reset();
+    s.m_form.Status.Panel[0].clear();
 }
 
-void Session::DeleteAniTempFiles() {
-    m_ani.ResetAniFrames();
-    ani::AniTempFiles& names = m_ani.TempFiles();
+void AniSteps::DeleteAniTempFiles(Session& s) {
+    s.m_ani.ResetAniFrames();
+    ani::AniTempFiles& names = s.m_ani.TempFiles();
     // The folder is looked up only when there are files to delete: looking makes it.
-    if (!names.empty() && !names.front().empty()) ani::RemoveAniTempFiles(files::PrivateTempDir(m_dirs.TempDir), names);
+    if (!names.empty() && !names.front().empty()) ani::RemoveAniTempFiles(files::PrivateTempDir(s.m_dirs.TempDir), names);
     names.clear();
-    m_ani.MutableFrames().AniFrames.clear();
+    s.m_ani.MutableFrames().AniFrames.clear();
 }
 
 void Session::TerminateAniSession() {
     // The temporary files go first: the reset forgets their names.
-    DeleteAniTempFiles();
-    ResetAniSession();
+    AniSteps::DeleteAniTempFiles(*this);
+    AniSteps::ResetAniSession(*this);
     m_ani.HideContainer();
 }
 
@@ -158,16 +158,16 @@ bool Session::AskTerminateAniSession(bool only32) {
 
 bool Session::OpenAniFromCommandLine(const std::string& path) {
     Enter();
-    ResetAniSession();
+    AniSteps::ResetAniSession(*this);
     m_ani.ShowContainer();
-    if (LoadAniFile(path)) return true;
+    if (AniSteps::LoadAniFile(*this, path)) return true;
     ClickAniButton(6);
     return false;
 }
 
 void Session::EndAniSessionAtExit() {
     m_ani.Test().Stop();
-    DeleteAniTempFiles();
+    AniSteps::DeleteAniTempFiles(*this);
 }
 
 }  // namespace vexlo::session

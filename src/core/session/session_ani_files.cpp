@@ -10,101 +10,101 @@
 #include "core/files/ico_probe.h"
 #include "core/files/private_temp.h"
 #include "core/session/ani_frames/ani_texts.h"
-#include "core/session/session.h"
+#include "core/session/session_ani_steps.h"
 
 namespace vexlo::session {
 
-bool Session::FileDialogOpenANI() {
-    const std::string path = AskOpen(ani::kAniFileFilterOpen, ani::kAniDefaultExtension);
+bool AniSteps::FileDialogOpenANI(Session& s) {
+    const std::string path = s.AskOpen(ani::kAniFileFilterOpen, ani::kAniDefaultExtension);
     if (path.empty()) return false;
-    return LoadAniFile(path);
+    return LoadAniFile(s, path);
 }
 
-bool Session::LoadAniFile(const std::string& path) {
+bool AniSteps::LoadAniFile(Session& s, const std::string& path) {
     const int count = ani::CountAniFrames(path);
     // The file is read into frames of its own: a file that fails leaves the session's frames
     // as they were.
     ani::AniFrameSet loaded;
     ani::AniLoadResult result;
     {
-        host::Hourglass hourglass(m_host);
-        result = ani::LoadAniFrames(path, count, loaded, [this] { LetPendingEventsRun(); });
+        host::Hourglass hourglass(s.m_host);
+        result = ani::LoadAniFrames(path, count, loaded, [&s] { s.LetPendingEventsRun(); });
     }
     if (!result) {
-        m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
+        s.m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
         return false;
     }
-    m_ani.TakeLoaded(std::move(loaded), path);
-    m_form.Status.Panel[0] = path;
+    s.m_ani.TakeLoaded(std::move(loaded), path);
+    s.m_form.Status.Panel[0] = path;
     return true;
 }
 
-bool Session::SaveANIFile() {
-    const int n = m_ani.FrameCount();
-    const auto& rows = m_ani.Frames().AniFrames;
+bool AniSteps::SaveANIFile(Session& s) {
+    const int n = s.m_ani.FrameCount();
+    const auto& rows = s.m_ani.Frames().AniFrames;
     if (n < 1) {
-        m_host.MsgBox(ani::kNoFramesPrepared, MsgButtons::Ok, MsgIcon::None, kTitle);
+        s.m_host.MsgBox(ani::kNoFramesPrepared, MsgButtons::Ok, MsgIcon::None, kTitle);
         return false;
     }
     if (static_cast<std::size_t>(n) != rows.size()) {
-        m_host.MsgBox(ani::kImageCountDiscrepant, MsgButtons::Ok, MsgIcon::None, kTitle);
+        s.m_host.MsgBox(ani::kImageCountDiscrepant, MsgButtons::Ok, MsgIcon::None, kTitle);
         return false;
     }
-    const AniBoxes& boxes = m_ani.Boxes();
+    const AniBoxes& boxes = s.m_ani.Boxes();
     const std::string question =
         ani::AniSaveQuestion(std::to_string(boxes.HotX), std::to_string(boxes.HotY), rows[0].HotX, rows[0].HotY);
-    if (m_host.MsgBox(question, MsgButtons::YesNo, MsgIcon::Question, kTitle) != MsgAnswer::Yes) return false;
+    if (s.m_host.MsgBox(question, MsgButtons::YesNo, MsgIcon::Question, kTitle) != MsgAnswer::Yes) return false;
 
     utilities::SaveRequest dialog;
-    dialog.FileName = ani::AniSaveProposedName(m_ani.FileName());
+    dialog.FileName = ani::AniSaveProposedName(s.m_ani.FileName());
     dialog.Filter = ani::kAniFileFilterSave;
     dialog.DefaultExt = ani::kAniDefaultExtension;
-    const std::string target = m_host.ShowSave(dialog);
+    const std::string target = s.m_host.ShowSave(dialog);
     if (target.empty()) return false;
 
     ani::AniSaveRequest request;
     request.TargetPath = target;
-    request.TempDir = files::PrivateTempDir(m_dirs.TempDir);
+    request.TempDir = files::PrivateTempDir(s.m_dirs.TempDir);
     request.HotX = boxes.HotX;
     request.HotY = boxes.HotY;
-    request.KeepTrueColor = Current().ColorCount == -1 && Current().HasAlpha;
-    request.Progress = [this](int percent) { ShowProgress(percent, true); };
+    request.KeepTrueColor = s.Current().ColorCount == -1 && s.Current().HasAlpha;
+    request.Progress = [&s](int percent) { s.ShowProgress(percent, true); };
     if (request.TempDir.empty()) {
-        ReportError(ani::kSaveAniFaultLabel, EACCES, "No private folder can be made for the temporary frame files");
+        s.ReportError(ani::kSaveAniFaultLabel, EACCES, "No private folder can be made for the temporary frame files");
         return false;
     }
     ani::AniSaveResult result;
     {
-        host::Hourglass hourglass(m_host);
-        SetProgressVisible(true);
-        m_ani.SetButtonEnabled(5, false);
-        result = ani::SaveANIFile(m_ani.MutableFrames(), m_ani.TempFiles(), request);
-        SetProgressVisible(false);
-        m_ani.SetButtonEnabled(5, true);
+        host::Hourglass hourglass(s.m_host);
+        s.SetProgressVisible(true);
+        s.m_ani.SetButtonEnabled(5, false);
+        result = ani::SaveANIFile(s.m_ani.MutableFrames(), s.m_ani.TempFiles(), request);
+        s.SetProgressVisible(false);
+        s.m_ani.SetButtonEnabled(5, true);
     }
     switch (result.Outcome) {
         case ani::AniSaveOutcome::Saved:
-            m_ani.SetFileName(target);
-            m_form.Status.Panel[0] = target;
+            s.m_ani.SetFileName(target);
+            s.m_form.Status.Panel[0] = target;
             return true;
         case ani::AniSaveOutcome::TempFileMissing:
-            m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
+            s.m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::Exclamation, kTitle);
             return false;
         case ani::AniSaveOutcome::Fault:
-            ReportError(ani::kSaveAniFaultLabel, result.Number, result.Message);
+            s.ReportError(ani::kSaveAniFaultLabel, result.Number, result.Message);
             return false;
         default:
-            m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::None, kTitle);
+            s.m_host.MsgBox(result.Message, MsgButtons::Ok, MsgIcon::None, kTitle);
             return false;
     }
 }
 
-bool Session::LoadIconFileToFrame() {
-    const std::string path = AskOpen(kAniIcoFilter, "ico");
+bool AniSteps::LoadIconFileToFrame(Session& s) {
+    const std::string path = s.AskOpen(kAniIcoFilter, "ico");
     if (path.empty()) return false;
     const files::ProbeAnswer probe = files::ProbeIconFile(path);
-    const auto refuse = [this](const std::string& text, MsgIcon icon) {
-        m_host.MsgBox(text, MsgButtons::Ok, icon, kTitle);
+    const auto refuse = [&s](const std::string& text, MsgIcon icon) {
+        s.m_host.MsgBox(text, MsgButtons::Ok, icon, kTitle);
         return false;
     };
     if (probe.Kind == 0) return refuse(files::InvalidIconFileMessage(path), MsgIcon::Exclamation);
@@ -123,16 +123,16 @@ bool Session::LoadIconFileToFrame() {
     surface::Surface mask(ani::kAniFrameSide, ani::kAniFrameSide, kBlack);
     if (!ani::LoadAniCursor(path, icon, &why) || !icon.Draw(image, 0, 0, ani::CursorDraw::Normal, 0) ||
         !icon.Draw(mask, 0, 0, ani::CursorDraw::Mask, 0)) {
-        ReportError(kLoadIconFileToFrameLabel, EINVAL, why.empty() ? "The icon can't be drawn" : why);
+        s.ReportError(kLoadIconFileToFrameLabel, EINVAL, why.empty() ? "The icon can't be drawn" : why);
         return false;
     }
-    const int n = m_ani.CurrentFrame();
-    if (!m_ani.StoreAniFrame(n, image, mask)) return false;
-    auto& rows = m_ani.MutableFrames().AniFrames;
+    const int n = s.m_ani.CurrentFrame();
+    if (!s.m_ani.StoreAniFrame(n, image, mask)) return false;
+    auto& rows = s.m_ani.MutableFrames().AniFrames;
     if (static_cast<std::size_t>(n) <= rows.size()) rows[static_cast<std::size_t>(n - 1)].PictureIndex = 0;
-    m_ani.RebuildFilm();
-    m_ani.MarkFrame(n);
-    m_ani.SetDirty(true);
+    s.m_ani.RebuildFilm();
+    s.m_ani.MarkFrame(n);
+    s.m_ani.SetDirty(true);
     return true;
 }
 
