@@ -30,7 +30,6 @@ void Session::ClickAniButton(int k) {
     m_ani.RefreshButtons();
 }
 
-// The action of cmdANI(k); false when it stopped early.
 bool AniSteps::RunAniAction(Session& s, int k) {
     switch (k) {
         case 0:
