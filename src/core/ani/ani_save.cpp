@@ -160,7 +160,11 @@ AniSaveResult SaveANIFile(AniFrameSet& set, AniTempFiles& tempFiles, const AniSa
     }
     const std::vector<std::uint8_t> file = BuildAniFileBytes(frames, set.AniFrames);
     const files::FileWriteResult written = files::AtomicWriteFile(request.TargetPath, files::Bytes(file));
-    if (!written) return Result(AniSaveOutcome::Fault, written.Error);
+    if (!written) {
+        AniSaveResult fault = Result(AniSaveOutcome::Fault, written.Error);
+        fault.Number = written.Number;
+        return fault;
+    }
     progress(100);
     return Result(AniSaveOutcome::Saved);
 }

@@ -74,6 +74,7 @@ struct AniSaveResult {
     // find a temporary file" CR LF name; for Fault the description for the common error box
     // under kSaveAniFaultLabel.
     std::string Message;
+    int Number = 0;  // for Fault: the errno of the step that failed
     explicit operator bool() const { return Outcome == AniSaveOutcome::Saved; }
 };
 

@@ -314,6 +314,20 @@ public:
     void PlaceFloatingPicture(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
     void NudgeRegion(int dx, int dy);      // an arrow key on a floating Region: one cell
     void ReleaseOnShiftPad(int x, int y);  // a release on picShiftDir
+    // --- Animated cursor session (session_ani*.cpp); a disabled cmdANI(k) does nothing -----
+    void mnuANIFileCreateOrEdit();
+    void ClickAniButton(int k);
+    void ChooseAniBox(int k, int value);  // cboANI(k): read only at Set, New and Save
+    void ClickAniSingly(bool checked);    // ckbJIFSinglely
+    // x, y in picFilm's pixels, or in picFraContainer's for the container.
+    void AniPointerEvent(AniPointer what, int x, int y);
+    void ScrollAniSeries(int value);  // VsrANISeries
+    // Timer1's tick (also while pending events run); true when picANITest changed.
+    bool AniTimerTick();
+    void SetAniTimer(AniTimer* timer) { m_ani.Test().SetTimer(timer); }
+    // The question of the commands that end a visible session; true if it may end (and has).
+    bool AskTerminateAniSession(bool only32);
+    void EndAniSessionAtExit();  // the test stopped, frames and temporary frame files gone
 
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
@@ -397,6 +411,11 @@ private:
     // Undo, Undo All and Redo: with at least `needed` entries, the history moves and the
     // entry now last is shown.
     void StepHistory(bool (EditedIcon::*move)(), std::size_t have, std::size_t needed);
+    // The animated cursor session's steps (session_ani*.cpp, session_ani_steps.h).
+    friend struct AniSteps;
+    void TerminateAniSession();  // its temporary files deleted, reset, container hidden
+    bool AskAniDiscard();        // true unless frames are unsaved and the user keeps them
+    bool OpenAniFromCommandLine(const std::string& path);
     // Lets the platform run pending events (DoEvents), with Busy() true meanwhile.
     void LetPendingEventsRun() override;
     // Every entry from the window starts here: none may start while pending events run in

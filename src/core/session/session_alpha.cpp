@@ -29,7 +29,7 @@ void Session::AlphaViewEditCreate() {
         return;
     if (m_ani.ContainerVisible()) {
         if (!AskYesNo(Line(kEndAniQuestion))) return;
-        m_ani.Close();
+        TerminateAniSession();
     }
     if ((s.Changed || s.NeverSaved) && !AskSaveCurrent()) return;
     alpha::AlphaArray& incoming = m_panel.IncomingAlpha();

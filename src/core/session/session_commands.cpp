@@ -94,6 +94,7 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuEffectsShrink", [](Session& s, int) { s.ResizeIcon(false); }},
         {"mnuEffectsConfineColorsTo16", [](Session& s, int) { s.mnuEffectsConfineColorsTo16(); }},
         {"mnuEffectsConfineColorsTo2", [](Session& s, int) { s.mnuEffectsConfineColorsTo2(); }},
+        {"mnuANIFileCreateOrEdit", [](Session& s, int) { s.mnuANIFileCreateOrEdit(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",
          [](Session& s, int i) {

@@ -114,8 +114,8 @@ CommandLineResult Session::RunFirstActivation(const std::string& commandLine,
                 RefreshPaletteMenu();
                 if (keepWorkingDir) *keepWorkingDir = loaded;
             } else if (ext == "ANI") {
-                // Animated cursor files need the ANI reader, which this program lacks yet.
-                result = CommandLineResult::LoadFailed;
+                result = OpenAniFromCommandLine(m_currentPath) ? CommandLineResult::Loaded
+                                                               : CommandLineResult::LoadFailed;
             }
         } else {
             m_host.MsgBox(m_currentPath + " not found", MsgButtons::Ok, MsgIcon::None, kTitle);
@@ -143,6 +143,8 @@ std::string Session::UnsavedSlotsQuestion() const {
 
 bool Session::QueryExit() {
     m_host.SetHourglass(false);
+    // Frames of a visible animated cursor session that aren't saved are asked about too.
+    if (m_ani.ContainerVisible() && !AskAniDiscard()) return false;
     const std::string question = UnsavedSlotsQuestion();
     if (question.empty()) return true;
     return m_host.MsgBox(question, MsgButtons::YesNo, MsgIcon::Question, kTitle) != MsgAnswer::No;

@@ -12,7 +12,7 @@ void Session::ShowFrame(Frame frame) {
             m_list.Reset();
         }
     } else if (m_ani.ContainerVisible()) {
-        m_ani.Close();
+        TerminateAniSession();
         m_form.Status.Panel[0] = Current().FileSpec;
     }
     m_form.VisibleFrame = Frame::None;
@@ -87,22 +87,9 @@ void Session::DoubleClickPanel(int k) {
 void Session::FileNew(int entry) {
     static constexpr int kSizeOfEntry[3] = {2, 1, 3};
     if (entry < 0 || entry > 2) return;
-    if (m_form.VisibleFrame != Frame::ColorsPanel) {
-        bool aniStays = false;
-        if (m_ani.ContainerVisible()) {
-            if (entry != 0) {
-                const std::string q = std::string("Animated cursor session for 32x32 icons only") +
-                                      kCrLf + "Terminate animated cursor session?" + kCrLf;
-                if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) ==
-                    MsgAnswer::No)
-                    return;
-                m_ani.Close();
-            } else {
-                aniStays = true;
-            }
-        }
-        if (!aniStays) ShowFrame(Frame::ColorsPanel);
-    }
+    // The animated cursor session, over the Colors Panel or not, stays for a 32x32 icon only.
+    if (m_ani.ContainerVisible() && entry != 0 && !AskTerminateAniSession(true)) return;
+    if (m_form.VisibleFrame != Frame::ColorsPanel && !m_ani.ContainerVisible()) ShowFrame(Frame::ColorsPanel);
     if (!GuardReplaceCurrent()) return;
     PutNewIcon(kSizeOfEntry[entry]);
     SelectPaintTool();
@@ -140,7 +127,7 @@ void Session::FileOpen(int entry) {
         const std::string q = std::string("Terminate animated cursor session?") + kCrLf;
         if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::No)
             return;
-        m_ani.Close();
+        TerminateAniSession();
     } else if (m_form.VisibleFrame == Frame::IconsList) {
         m_host.MsgBox(std::string("You are already in \"List All Icons in Folder\" session.") +
                           kCrLf + "There are command buttons there.",

@@ -158,7 +158,7 @@ void Session::ClickFileHistory(int k) {
             const std::string q = std::string("Animated cursor session for 32x32 icons only") + kCrLf +
                                   "Terminate animated cursor session?" + kCrLf;
             if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::No) return;
-            m_ani.Close();
+            TerminateAniSession();
         }
         ShowFrame(Frame::ColorsPanel);
     }

@@ -124,6 +124,7 @@ void FrmVexlo::closeEvent(QCloseEvent* event) {
         m_session.WriteOptions();
         m_session.WriteLastFolder(m_session.Dirs().LastFolder);
     }
+    m_session.EndAniSessionAtExit();
     event->accept();
 }
 

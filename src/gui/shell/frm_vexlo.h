@@ -25,6 +25,7 @@ class QToolButton;
 
 namespace vexlo::gui {
 
+class AniContainerView;
 class ElidedLabel;
 class SurfaceView;
 class ButtonizeFrame;
@@ -134,6 +135,8 @@ public:
     SurfaceView* picMixGradient = nullptr;
     QFrame* ShapeMix = nullptr;
     std::array<QToolButton*, 3> cmdAdjMix{};
+    // The animated cursor session's container over the panel frames (gui/ani).
+    AniContainerView* picANIContainer = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

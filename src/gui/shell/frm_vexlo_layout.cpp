@@ -11,6 +11,7 @@
 #include "gui/effects/frm_vexlo_buttonize.h"
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
+#include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -119,6 +120,8 @@ void FrmVexlo::BuildLayout() {
     fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
     BuildGradientFrame(Frames[session::Frame::Gradient]);
     BuildConfineToMonoFrame(Frames[session::Frame::ConfineToMono]);
+    // picFraContainer, where the container moves, begins 40 pixels above the panel frames.
+    picANIContainer = new AniContainerView(*this, m_form, QPoint(kRightLeft - 1, kFramesTop - session::kAniContainerTop));
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

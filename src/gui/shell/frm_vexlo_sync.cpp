@@ -9,6 +9,7 @@
 #include "gui/effects/frm_vexlo_buttonize.h"
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
+#include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -76,6 +77,7 @@ void FrmVexlo::SyncFromModel() {
     fraRotateSelectAngle->Sync();
     SyncGradient();
     SyncConfineToMono();
+    picANIContainer->Sync();
     SyncStatus();
 }
 
