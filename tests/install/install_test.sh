@@ -20,6 +20,16 @@ for f in bin/vexlo bin/vexlo-cli share/applications/org.vexlo.Vexlo.desktop \
   [ -e "$prefix/$f" ] || fail "not installed: $f"
 done
 
+# The help where the installed program looks for it (share/vexlo/help beside its bin), with
+# every picture and page its pages name.
+help_dir="$prefix/bin/../share/vexlo/help"
+[ -f "$help_dir/VexloHelp.html" ] || fail "help not installed where vexlo looks: $help_dir/VexloHelp.html"
+for page in "$help_dir"/*.html; do
+  for ref in $(grep -o '\(src\|href\)="[^"#:]\+[#"]' "$page" | sed 's/^[a-z]*="//; s/[#"]$//'); do
+    [ -e "$help_dir/$ref" ] || fail "help page $(basename "$page") names a missing $ref"
+  done
+done
+
 desktop-file-validate "$share/applications/org.vexlo.Vexlo.desktop" || fail "desktop-file-validate"
 appstreamcli validate --no-net "$share/metainfo/org.vexlo.Vexlo.metainfo.xml" >/dev/null || fail "appstreamcli validate"
 

@@ -30,6 +30,7 @@ class ButtonizeFrame;
 class AdjustColorsFrame;
 class TextFrame;
 class RotateAngleFrame;
+class PrintFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -116,6 +117,7 @@ public:
     AdjustColorsFrame* fraAdjustPaintedColors = nullptr;
     TextFrame* fraText = nullptr;
     RotateAngleFrame* fraRotateSelectAngle = nullptr;
+    PrintFrame* fraPrint = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -153,7 +155,6 @@ private:
     // The enable rules of one top menu, run as it drops down.
     void ApplyMenuRules(const session::TopMenu& menu);
     void LayOutIconAndMask();
-    void ShowAbout();
 
     WindowHost m_host;
     session::Session m_session;

@@ -13,6 +13,7 @@
 #include "gui/effects/frm_vexlo_text.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
+#include "gui/print/frm_vexlo_print.h"
 
 namespace vexlo::gui {
 
@@ -117,6 +118,7 @@ void FrmVexlo::BuildLayout() {
     fraAdjustPaintedColors = new AdjustColorsFrame(*this, Frames[session::Frame::AdjustPaintedColors]);
     fraText = new TextFrame(*this, Frames[session::Frame::Text]);
     fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
+    fraPrint = new PrintFrame(*this, Frames[session::Frame::Print]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -11,6 +11,7 @@
 #include "gui/effects/frm_vexlo_text.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
+#include "gui/print/frm_vexlo_print.h"
 
 namespace vexlo::gui {
 
@@ -74,6 +75,7 @@ void FrmVexlo::SyncFromModel() {
     fraAdjustPaintedColors->Sync();
     fraText->Sync();
     fraRotateSelectAngle->Sync();
+    fraPrint->Sync();
     SyncStatus();
 }
 
