@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the build into a temporary prefix and checks what the desktop sees of it: the
-# menu entry and the metainfo pass their validators, the thumbnailer entry runs vexlo-cli,
+# menu entry and the metainfo pass their validators, the help pages stand where the program
+# looks for them with every picture they name, the thumbnailer entry runs vexlo-cli,
 # ICO files open with Vexlo by default under a private XDG home, and the installed editor
 # starts (offscreen) and keeps running until stopped.
 # usage: install_test.sh BUILD_DIR CMAKE FIXTURES_DIR
