@@ -93,18 +93,6 @@ TEST_F(PrintFlow, OriginalSizePrintsTheComposedIconWithoutGrid) {
     EXPECT_DOUBLE_EQ(host.pages[0].Rect.Left, (8 * 1440 - 480) / 2.0);
 }
 
-TEST_F(PrintFlow, ThirtyTwoIconFitsToPaperFromTheWholeEditingArea) {
-    NewIconWith(0, {"r"});
-    Open();
-    Click(PrintControl::SizeOption, 2);
-    host.AnswerPrinter(true);
-    s.PrintProceed();
-    ASSERT_EQ(host.pages.size(), 1u);
-    EXPECT_EQ(host.pages[0].Picture.Width(), 384);
-    EXPECT_DOUBLE_EQ(host.pages[0].Rect.Width, 8 * 1440);
-    EXPECT_DOUBLE_EQ(host.pages[0].Rect.Top, (10.5 - 8) / 2 * 1440);
-}
-
 TEST_F(PrintFlow, MessagesStopTheJobBeforeThePage) {
     NewIconWith(0, {"r"});
     Open();
