@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the build into a temporary prefix and checks what the desktop sees of it: the
-# menu entry and the metainfo pass their validators, the thumbnailer entry runs vexlo-cli,
+# menu entry and the metainfo pass their validators, the help pages stand where the program
+# looks for them with every picture they name, the thumbnailer entry runs vexlo-cli,
 # ICO files open with Vexlo by default under a private XDG home, and the installed editor
 # starts (offscreen) and keeps running until stopped.
 # usage: install_test.sh BUILD_DIR CMAKE FIXTURES_DIR
@@ -18,6 +19,16 @@ for f in bin/vexlo bin/vexlo-cli share/applications/org.vexlo.Vexlo.desktop \
          share/icons/hicolor/16x16/apps/org.vexlo.Vexlo.png share/icons/hicolor/32x32/apps/org.vexlo.Vexlo.png \
          share/icons/hicolor/48x48/apps/org.vexlo.Vexlo.png share/icons/hicolor/scalable/apps/org.vexlo.Vexlo.svg; do
   [ -e "$prefix/$f" ] || fail "not installed: $f"
+done
+
+# The help where the installed program looks for it (share/vexlo/help beside its bin), with
+# every picture and page its pages name.
+help_dir="$prefix/bin/../share/vexlo/help"
+[ -f "$help_dir/VexloHelp.html" ] || fail "help not installed where vexlo looks: $help_dir/VexloHelp.html"
+for page in "$help_dir"/*.html; do
+  for ref in $(grep -o '\(src\|href\)="[^"#:]\+[#"]' "$page" | sed 's/^[a-z]*="//; s/[#"]$//'); do
+    [ -e "$help_dir/$ref" ] || fail "help page $(basename "$page") names a missing $ref"
+  done
 done
 
 desktop-file-validate "$share/applications/org.vexlo.Vexlo.desktop" || fail "desktop-file-validate"

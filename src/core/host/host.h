@@ -9,6 +9,7 @@
 #include "core/alpha/alpha_array.h"
 #include "core/surface/surface.h"
 #include "core/utilities/dialog_requests.h"
+#include "core/utilities/print_layout.h"
 
 namespace vexlo::host {
 
@@ -67,6 +68,14 @@ struct TextFont {
     int Size = 8;
     bool Bold = false;
     bool Italic = false;
+};
+
+// What the desktop capture answers: the square taken, a capture left without one, or a display
+// that doesn't let the screen be read.
+enum class CaptureOutcome { Cancelled, Taken, Unavailable };
+struct CaptureAnswer {
+    CaptureOutcome Outcome = CaptureOutcome::Cancelled;
+    surface::Surface Picture;  // side x side when taken
 };
 
 class Host {
@@ -128,6 +137,23 @@ public:
                                       const std::string& /*startFolder*/) {
         return {};
     }
+
+    // The main window hidden, frmVexloCapture over a frozen picture of the screen with a box
+    // of side x side pixels, the main window shown again. Without a platform: cancelled.
+    virtual CaptureAnswer CaptureScreen(int /*side*/) { return {}; }
+    // Printing: whether the platform knows any printer; the printable area of the printer
+    // that the last confirmed print dialog set up, with its four values applied; one page
+    // with picture drawn at rect, each pixel a block of its exact color (false when the page
+    // couldn't be printed).
+    virtual bool HasPrinter() { return false; }
+    virtual utilities::PrintArea PrinterArea() { return {}; }
+    virtual bool PrintPicture(const surface::Surface& /*picture*/, const utilities::PrintRect& /*rect*/) {
+        return false;
+    }
+    // frmVexloAbout, modal.
+    virtual void ShowAbout() {}
+    // The help file opened in the user's browser; false when nothing could be started.
+    virtual bool OpenHelpFile(const std::string& /*path*/) { return false; }
 
     // The screen fonts' families, in the order the font list shows them; none without a
     // platform.

@@ -29,6 +29,7 @@
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_panel/icons_panel.h"
 #include "core/session/menu_tree.h"
+#include "core/session/print_job/print_panel.h"
 #include "core/session/session_basics.h"
 #include "core/session/region/floating_region.h"
 #include "core/session/region/region_tool_view.h"
@@ -329,6 +330,11 @@ public:
     bool AskTerminateAniSession(bool only32);
     void EndAniSessionAtExit();  // the test stopped, frames and temporary frame files gone
 
+    // --- Print (session_print.cpp) ---------------------------------------------------------
+    const PrintPanel& PrintFrame() const { return m_print; }
+    void ClickPrintControl(PrintControl control, int index);  // fraPrint's options and lists
+    void PrintProceed();                                       // cmdPrintProceed
+
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
     int RedoCount() const { return static_cast<int>(m_icon.RedoCount()); }
@@ -352,6 +358,11 @@ private:
     void mnuFileSaveMultiIconAddTo();
     void mnuFileSaveAsCursor();
     void mnuFileSaveAsBitmap();
+    // Print, the desktop capture, Enquiry and Help (session_print, _capture, _enquiry, _help).
+    void mnuFilePrint();
+    void mnuExtractCapture();
+    void ClickEnquiry(int item);  // mnuEnquiryCurrent(item)
+    void mnuHelpHTMLHelp();
     // View/Edit/Create Alpha Channel and what the editor's answer does (session_alpha.cpp).
     void AlphaViewEditCreate();
     void FlattenAlpha(const host::AlphaEditorAnswer& answer);
@@ -435,6 +446,7 @@ private:
     IconsListSession m_list;
     FormState m_form;
     FileHistoryMenu m_fileHistory;
+    PrintPanel m_print;
     tools::DrawState m_draw;
     std::array<Surface, 3> m_charts;
     Color m_selectedColor = kWhite;

@@ -12,7 +12,6 @@ constexpr const char* kValuesMissing = "Original alpha values for current icon m
 constexpr const char* kCopyToEditorFailed = "Failed to copy alpha values for current icon.";
 constexpr const char* kCopyToRecordFailed = "Failed to copy the Alpha Channel values to record.";
 constexpr const char* kUnknownRecord = "Unknown found in record.";
-constexpr const char* kEndAniQuestion = "Terminate animated cursor session?";
 
 std::string Line(const char* text) { return std::string(text) + kCrLf; }
 
@@ -27,10 +26,7 @@ void Session::AlphaViewEditCreate() {
     IconSlot& s = Current();
     if (!s.HasAlpha && !AskYesNo(Line(s.ColorCount == -1 ? kNoAlphaQuestion : kNotTrueColorQuestion)))
         return;
-    if (m_ani.ContainerVisible()) {
-        if (!AskYesNo(Line(kEndAniQuestion))) return;
-        TerminateAniSession();
-    }
+    if (!AskTerminateAniSession(false)) return;
     if ((s.Changed || s.NeverSaved) && !AskSaveCurrent()) return;
     alpha::AlphaArray& incoming = m_panel.IncomingAlpha();
     incoming.SetSingle();

@@ -115,6 +115,11 @@ bool Session::RunMenuItem(std::string_view name) {
          }},
         {"mnuEditSub", [](Session& s, int i) { s.ClickEditSub(i); }},
         {"mnuRotateSubmenu", [](Session& s, int i) { s.ClickRotateSubmenu(i); }},
+        {"mnuFilePrint", [](Session& s, int) { s.mnuFilePrint(); }},
+        {"mnuExtractCapture", [](Session& s, int) { s.mnuExtractCapture(); }},
+        {"mnuEnquiryCurrent", [](Session& s, int i) { s.ClickEnquiry(i); }},
+        {"mnuHelpHTMLHelp", [](Session& s, int) { s.mnuHelpHTMLHelp(); }},
+        {"mnuHelpAbout", [](Session& s, int) { s.host().ShowAbout(); }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;

@@ -124,10 +124,7 @@ void Session::FileOpen(int entry) {
         if (m_form.VisibleFrame != Frame::ColorsPanel && !m_ani.ContainerVisible())
             ShowFrame(Frame::ColorsPanel);
     } else if (m_ani.ContainerVisible()) {
-        const std::string q = std::string("Terminate animated cursor session?") + kCrLf;
-        if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::No)
-            return;
-        TerminateAniSession();
+        if (!AskTerminateAniSession(false)) return;
     } else if (m_form.VisibleFrame == Frame::IconsList) {
         m_host.MsgBox(std::string("You are already in \"List All Icons in Folder\" session.") +
                           kCrLf + "There are command buttons there.",

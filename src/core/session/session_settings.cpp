@@ -154,12 +154,7 @@ void Session::ClickFileHistory(int k) {
     const std::string caption = m_fileHistory.Caption[static_cast<std::size_t>(k)];
     if (caption.empty()) return;
     if (m_form.VisibleFrame != Frame::ColorsPanel) {
-        if (m_ani.ContainerVisible()) {
-            const std::string q = std::string("Animated cursor session for 32x32 icons only") + kCrLf +
-                                  "Terminate animated cursor session?" + kCrLf;
-            if (m_host.MsgBox(q, MsgButtons::YesNo, MsgIcon::Question, kTitle) == MsgAnswer::No) return;
-            TerminateAniSession();
-        }
+        if (!AskTerminateAniSession(true)) return;
         ShowFrame(Frame::ColorsPanel);
     }
     if (!GuardReplaceCurrent()) return;

@@ -37,6 +37,17 @@ std::uint64_t PhysicalMemoryKb() {
     return ::sysinfo(&info) == 0 ? Kb(info.totalram, info.mem_unit) : 0;
 }
 
+std::uint64_t PhysicalMemoryBytes() {
+    struct sysinfo info {};
+    if (::sysinfo(&info) != 0) return 0;
+    return static_cast<std::uint64_t>(info.totalram) * (info.mem_unit == 0 ? 1u : info.mem_unit);
+}
+
+int ScreenLogicalDpi() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? qRound(screen->logicalDotsPerInchX()) : 96;
+}
+
 std::uint64_t FreePhysicalMemoryKb() {
     struct sysinfo info {};
     return ::sysinfo(&info) == 0 ? Kb(info.freeram, info.mem_unit) : 0;

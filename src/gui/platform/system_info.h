@@ -18,6 +18,9 @@ int ScreenDepth();
 
 // Physical memory in KB, all and free (GlobalMemoryStatus), from sysinfo; 0 if unknown.
 std::uint64_t PhysicalMemoryKb();
+std::uint64_t PhysicalMemoryBytes();
+// Logical dots per inch across of the primary screen; 96 without a screen.
+int ScreenLogicalDpi();
 std::uint64_t FreePhysicalMemoryKb();
 
 // GetWindowsDirectory: "/etc", where the system keeps its settings.

@@ -11,7 +11,6 @@
 
 #include "gui/platform/system_info.h"
 #include "gui/platform/surface_view.h"
-#include "gui/utilities/frm_vexlo_about.h"
 
 // Resources compiled into the static library must be registered by name before use.
 static void InitResources() {
@@ -126,11 +125,6 @@ void FrmVexlo::closeEvent(QCloseEvent* event) {
     }
     m_session.EndAniSessionAtExit();
     event->accept();
-}
-
-void FrmVexlo::ShowAbout() {
-    FrmVexloAbout about(this);
-    about.exec();
 }
 
 }  // namespace vexlo::gui

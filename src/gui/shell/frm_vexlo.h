@@ -32,6 +32,7 @@ class ButtonizeFrame;
 class AdjustColorsFrame;
 class TextFrame;
 class RotateAngleFrame;
+class PrintFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -137,6 +138,7 @@ public:
     std::array<QToolButton*, 3> cmdAdjMix{};
     // The animated cursor session's container over the panel frames (gui/ani).
     AniContainerView* picANIContainer = nullptr;
+    PrintFrame* fraPrint = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -180,7 +182,6 @@ private:
     // The enable rules of one top menu, run as it drops down.
     void ApplyMenuRules(const session::TopMenu& menu);
     void LayOutIconAndMask();
-    void ShowAbout();
 
     WindowHost m_host;
     session::Session m_session;

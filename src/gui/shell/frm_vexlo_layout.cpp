@@ -14,6 +14,7 @@
 #include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
+#include "gui/print/frm_vexlo_print.h"
 
 namespace vexlo::gui {
 
@@ -122,6 +123,7 @@ void FrmVexlo::BuildLayout() {
     BuildConfineToMonoFrame(Frames[session::Frame::ConfineToMono]);
     // picFraContainer, where the container moves, begins 40 pixels above the panel frames.
     picANIContainer = new AniContainerView(*this, m_form, QPoint(kRightLeft - 1, kFramesTop - session::kAniContainerTop));
+    fraPrint = new PrintFrame(*this, Frames[session::Frame::Print]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

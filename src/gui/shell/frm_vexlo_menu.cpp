@@ -59,10 +59,6 @@ void FrmVexlo::RunItem(std::string_view name) {
         close();
         return;
     }
-    if (name == "mnuHelpAbout") {
-        ShowAbout();
-        return;
-    }
     Run([name](session::Session& s) { s.RunMenuItem(name); });
     if (name == "mnuOptionsDisplayMask") LayOutIconAndMask();
 }

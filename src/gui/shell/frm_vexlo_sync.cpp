@@ -12,6 +12,7 @@
 #include "gui/ani/ani_container_view.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
+#include "gui/print/frm_vexlo_print.h"
 
 namespace vexlo::gui {
 
@@ -78,6 +79,7 @@ void FrmVexlo::SyncFromModel() {
     SyncGradient();
     SyncConfineToMono();
     picANIContainer->Sync();
+    fraPrint->Sync();
     SyncStatus();
 }
 

@@ -59,6 +59,15 @@ public:
     bool DrawText(const host::TextFont& font, const std::string& text, bool hollow,
                   surface::Color color, surface::Color back, surface::Surface& out) override;
 
+    // Print, the desktop capture, About and Help (window_host_utilities.cpp). Qt's PDF
+    // printer is always there, so a printer is always known.
+    bool HasPrinter() override { return true; }
+    utilities::PrintArea PrinterArea() override;
+    bool PrintPicture(const surface::Surface& picture, const utilities::PrintRect& rect) override;
+    host::CaptureAnswer CaptureScreen(int side) override;
+    void ShowAbout() override;
+    bool OpenHelpFile(const std::string& path) override;
+
     // The next open dialog is not shown: it answers path at once, as for a file dropped on the
     // window. ClearNextOpen drops an answer that no dialog took.
     void AnswerNextOpen(std::string path) { m_nextOpen = std::move(path); }

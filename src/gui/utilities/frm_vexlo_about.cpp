@@ -6,12 +6,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "gui/platform/message_box.h"
+#include "gui/platform/system_info.h"
+
 namespace vexlo::gui {
 
 namespace {
 
-// The product picture: a magnified 8x8 pixel icon on its grid.
-QPixmap AboutPicture() {
+// The product picture: a magnified 8x8 pixel icon on its grid, drawn at the given scale.
+QPixmap AboutPicture(double scale) {
     static const char* const kCells[8] = {"..####..", ".#OOOO#.", "#OO##OO#", "#O#YY#O#",
                                           "#O#YY#O#", "#OO##OO#", ".#OOOO#.", "..####.."};
     QPixmap pixmap(97, 97);
@@ -31,35 +34,64 @@ QPixmap AboutPicture() {
         painter.drawLine(i * 12, 0, i * 12, 96);
         painter.drawLine(0, i * 12, 96, i * 12);
     }
-    return pixmap;
+    painter.end();
+    if (scale == 1.0) return pixmap;
+    const int side = qRound(97 * scale);
+    return pixmap.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation);
 }
 
 }  // namespace
 
 QString FrmVexloAbout::VersionText() {
-    return QString("Professional Edition   v. %1.%2.%3")
-        .arg(VEXLO_VERSION_MAJOR)
-        .arg(VEXLO_VERSION_MINOR)
-        .arg(VEXLO_VERSION_PATCH);
+    return QString::fromStdString(
+        utilities::AboutVersionText(VEXLO_VERSION_MAJOR, VEXLO_VERSION_MINOR, VEXLO_VERSION_PATCH));
 }
 
-FrmVexloAbout::FrmVexloAbout(QWidget* parent) : QDialog(parent) {
+utilities::MachineFacts FrmVexloAbout::ReadMachineFacts() {
+    utilities::MachineFacts facts;
+    facts.TotalPhysicalBytes = platform::PhysicalMemoryBytes();
+    const platform::ScreenPixels screen = platform::ScreenSize();
+    facts.ScreenWidth = screen.width;
+    facts.ScreenHeight = screen.height;
+    facts.BitsPerPixel = platform::ScreenDepth();
+    facts.LogicalDpi = platform::ScreenLogicalDpi();
+    return facts;
+}
+
+FrmVexloAbout::FrmVexloAbout(QWidget* parent) : QDialog(parent), m_model(ReadMachineFacts()) {
+    setObjectName("frmVexloAbout");
     setWindowTitle("Vexlo");
     picAbout = new QLabel(this);
-    picAbout->setPixmap(AboutPicture());
+    picAbout->setObjectName("picAbout");
+    picAbout->setPixmap(AboutPicture(m_model.PictureScale()));
     auto* name = new QLabel("<b>Vexlo</b><br>Icon and cursor editor", this);
     lblVersion = new QLabel(VersionText(), this);
-    auto* cmdOK = new QPushButton("OK", this);
+    lblVersion->setObjectName("lblVersion");
+    cmdInfo = new QPushButton("&Info ....", this);
+    cmdInfo->setObjectName("cmdInfo");
+    cmdInfo->setToolTip("Memory and screen of this machine");
+    connect(cmdInfo, &QPushButton::clicked, this, &FrmVexloAbout::ShowInfo);
+    cmdOK = new QPushButton("OK", this);
+    cmdOK->setObjectName("cmdOK");
+    cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdInfo);
+    buttons->addWidget(cmdOK);
     auto* text = new QVBoxLayout;
     text->addWidget(name);
     text->addWidget(lblVersion);
     text->addStretch();
-    text->addWidget(cmdOK, 0, Qt::AlignRight);
+    text->addLayout(buttons);
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(picAbout);
     layout->addLayout(text);
+}
+
+void FrmVexloAbout::ShowInfo() {
+    platform::ShowMessageBox(m_model.InfoText(), host::MsgButtons::Ok, host::MsgIcon::Information, host::kTitle);
 }
 
 }  // namespace vexlo::gui

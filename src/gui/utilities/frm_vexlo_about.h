@@ -1,8 +1,13 @@
 #pragma once
-// frmVexloAbout: the About box, also shown without blocking as the splash at start-up.
+// frmVexloAbout: the About box, also shown without blocking as the splash at start-up. It
+// reads the machine's facts when it loads (utilities::AboutBox); cmdInfo shows them, cmdOK
+// closes the box.
 #include <QDialog>
 
+#include "core/utilities/about_box.h"
+
 class QLabel;
+class QPushButton;
 
 namespace vexlo::gui {
 
@@ -13,9 +18,19 @@ public:
 
     // "Professional Edition   v. " and the version as major.minor.revision.
     static QString VersionText();
+    // The platform's facts as they are now.
+    static utilities::MachineFacts ReadMachineFacts();
+    const utilities::AboutBox& Model() const { return m_model; }
 
     QLabel* picAbout = nullptr;
     QLabel* lblVersion = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdInfo = nullptr;
+
+private:
+    void ShowInfo();
+
+    utilities::AboutBox m_model;
 };
 
 }  // namespace vexlo::gui
