@@ -37,6 +37,7 @@
 
 namespace vexlo::session {
 
+class IconsListFlows;
 using surface::Color;
 using surface::Surface;
 using host::Host;
@@ -285,6 +286,8 @@ public:
     void PlaceFloatingPicture(const Surface& picture, int w, int h, bool seeThrough, int x, int y);
     void NudgeRegion(int dx, int dy);      // an arrow key on a floating Region: one cell
     void ReleaseOnShiftPad(int x, int y);  // a release on picShiftDir
+    // The Icons List and its sources, and the list's state (session_icons_list.h).
+    IconsListFlows Extraction();
 
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
@@ -346,6 +349,7 @@ private:
     void ResetRegionState();
     // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
     friend class RegionToolView;
+    friend class IconsListFlows;
     tools::RegionContext& Region() override { return m_regionTool; }
     void CutRegion(bool copyFirst);
     void CopyToClipboard();

@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "core/session/session.h"
+#include "core/session/session_icons_list.h"
 
 namespace vexlo::session {
 
@@ -109,6 +110,7 @@ bool Session::RunMenuItem(std::string_view name) {
          }},
         {"mnuEditSub", [](Session& s, int i) { s.ClickEditSub(i); }},
         {"mnuRotateSubmenu", [](Session& s, int i) { s.ClickRotateSubmenu(i); }},
+        {"mnuExtractSub", [](Session& s, int i) { s.Extraction().ClickExtractSub(i); }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;
