@@ -30,6 +30,7 @@ class ButtonizeFrame;
 class AdjustColorsFrame;
 class TextFrame;
 class RotateAngleFrame;
+class IconsListFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -116,6 +117,7 @@ public:
     AdjustColorsFrame* fraAdjustPaintedColors = nullptr;
     TextFrame* fraText = nullptr;
     RotateAngleFrame* fraRotateSelectAngle = nullptr;
+    IconsListFrame* fraIconsList = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

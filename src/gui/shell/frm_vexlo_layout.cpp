@@ -11,6 +11,7 @@
 #include "gui/effects/frm_vexlo_buttonize.h"
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
+#include "gui/icons_list/frm_vexlo_icons_list.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -102,7 +103,8 @@ void FrmVexlo::BuildLayout() {
         frame->setObjectName(QString("fra%1").arg(f));
         if (f != static_cast<int>(session::Frame::ColorsPanel) &&
             f != static_cast<int>(session::Frame::EffectsShades) &&
-            f != static_cast<int>(session::Frame::SaveAsCursor)) {
+            f != static_cast<int>(session::Frame::SaveAsCursor) &&
+            f != static_cast<int>(session::Frame::IconsList)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
@@ -117,6 +119,11 @@ void FrmVexlo::BuildLayout() {
     fraAdjustPaintedColors = new AdjustColorsFrame(*this, Frames[session::Frame::AdjustPaintedColors]);
     fraText = new TextFrame(*this, Frames[session::Frame::Text]);
     fraRotateSelectAngle = new RotateAngleFrame(*this, Frames[session::Frame::RotateSelectAngle]);
+    // The Icons List takes the whole height beside the panel: the icon, the mask and the info
+    // labels are empty while it is up.
+    Frames[session::Frame::IconsList]->setGeometry(kRightLeft, kDispTop, kRightWidth, 388 + 48);
+    Frames[session::Frame::IconsList]->setObjectName("fraIconsList");
+    fraIconsList = new IconsListFrame(*this, Frames[session::Frame::IconsList]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -9,6 +9,7 @@
 #include "gui/effects/frm_vexlo_buttonize.h"
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
+#include "gui/icons_list/frm_vexlo_icons_list.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 
@@ -74,6 +75,7 @@ void FrmVexlo::SyncFromModel() {
     fraAdjustPaintedColors->Sync();
     fraText->Sync();
     fraRotateSelectAngle->Sync();
+    fraIconsList->Sync();
     SyncStatus();
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/session/icons_list/icons_list_session.h"
 #include "core/session/icons_list/list_sources.h"
+#include "core/utilities/file_pattern.h"
 #include "support/picture_grid.h"
 #include "support/test_folder.h"
 
@@ -137,8 +138,22 @@ TEST(IconsListSources, FolderListingTakesIcoFilesOfAnyCaseInNameOrder) {
     EXPECT_EQ(session::ListFolderFiles(dir + "/", "*.ico", ec), want);
     EXPECT_FALSE(ec);
     EXPECT_EQ(session::ListFolderFiles(dir, "*", ec).size(), 6u);
+    std::filesystem::create_symlink(folder.Path("b.ico"), folder.Path("link.ico"));
+    EXPECT_EQ(session::ListFolderFiles(dir, "*.ico", ec).size(), 4u);
     EXPECT_TRUE(session::ListFolderFiles(dir + "/gone", "*", ec).empty());
     EXPECT_TRUE(ec);
+}
+
+TEST(IconsListSources, TheListingFollowsTheFolderDialogsOrder) {
+    TestFolder folder("vexlo_list_order");
+    std::vector<std::string> names = {"b.ico", "_x.ico", "A.ico", "a.ico", "ab.ico", "AB.ico",
+                                      "Z.ico", "[.ico", "\xC3\xA9.ico", "a0.ico"};
+    for (const std::string& name : names) std::ofstream(folder.Path(name)) << "x";
+    std::sort(names.begin(), names.end(), utilities::FileNameLess);
+    std::error_code ec;
+    const std::vector<std::string> listed = session::ListFolderFiles(folder.Dir().string(), "*", ec);
+    ASSERT_EQ(listed.size(), names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(listed[i], folder.Path(names[i]));
 }
 
 TEST(IconsListSources, LabelsAndNames) {
