@@ -1,7 +1,6 @@
 // The way back from a thumbnail to an icon: a clicked item is fetched again from its source
 // as a picture over white and a mask, and stored in the current slot of the Icons Panel; and
 // the Save All buttons of an ANI list, which write every frame as an ICO or BMP file.
-#include <filesystem>
 
 #include "core/ani/ani_cursor.h"
 #include "core/files/bmp_write.h"
@@ -19,11 +18,6 @@ using surface::Rop;
 namespace {
 
 constexpr const char* kUnableToRetrieve = "Unable to retrieve this one.";
-
-bool FileThere(const std::string& path) {
-    std::error_code ec;
-    return !path.empty() && std::filesystem::is_regular_file(path, ec);
-}
 
 // The scratch picture cleared to its back color at side x side.
 void Ready(Surface& s, int side, Color back) {

@@ -3,7 +3,6 @@
 // the lot as it grows and never waits on more than one thumbnail.
 #include <algorithm>
 #include <exception>
-#include <filesystem>
 
 #include "core/ani/ani_cursor.h"
 #include "core/files/ico_read.h"
@@ -20,11 +19,6 @@ namespace {
 
 // The labels' font.
 const host::TextFont kLabelFont{"Arial", 7, false, false};
-
-bool FileThere(const std::string& path) {
-    std::error_code ec;
-    return !path.empty() && std::filesystem::is_regular_file(path, ec);
-}
 
 }  // namespace
 

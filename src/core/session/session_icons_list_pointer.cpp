@@ -2,8 +2,8 @@
 // buttons, the scroll bar, and a release of the pointer on a thumbnail. Paging only moves the
 // picture; a new lot is drawn again from its source.
 #include <algorithm>
-#include <filesystem>
 
+#include "core/session/icons_list/list_sources.h"
 #include "core/session/session.h"
 #include "core/session/session_icons_list.h"
 
@@ -98,8 +98,7 @@ void IconsListFlows::ReleaseOnList(bool rightButton, double x, double y) {
             "a size not 16x16, 32x32 or 48x48.");
         return;
     }
-    std::error_code ec;
-    if (!std::filesystem::is_regular_file(item.Name, ec)) {
+    if (!FileThere(item.Name)) {
         Say(item.Name + " file missing." + kCrLf, MsgIcon::Exclamation);
         return;
     }

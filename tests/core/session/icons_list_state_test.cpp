@@ -58,18 +58,6 @@ TEST(IconsListState, PagesLandOnTheirFirstRowAndAFullPageFitsTheView) {
     EXPECT_EQ(list.Controls().LargeChange, 144);
 }
 
-TEST(IconsListState, ScrollingUnmarksThePagesUnlessPaging) {
-    IconsListSession list = ListOf(48);
-    list.MarkPage(2);
-    list.SetPaging(true);
-    list.ScrollTo(100);
-    EXPECT_EQ(list.MarkedPage(), 2);
-    list.SetPaging(false);
-    list.ScrollTo(5000);
-    EXPECT_EQ(list.MarkedPage(), -1);
-    EXPECT_EQ(list.Controls().ScrollValue, list.Controls().ScrollMax);
-}
-
 TEST(IconsListState, HitTestFindsCellsOfTheLotAndMissesBehindIt) {
     // Cells of the hit test: 231 / 3 = 77 wide, 1172 / 16 = 73.25, so 73 high.
     struct Case {
@@ -111,19 +99,6 @@ TEST(IconsListState, SelectionBoxIsInvertedAndMovesWithoutTrace) {
     fresh.DrawSelectionBox(3, 16);
     EXPECT_TRUE(SamePixels(p, fresh.Picture()));
     EXPECT_FALSE(SamePixels(p, white));
-}
-
-TEST(IconsListState, ResetLeavesOneEmptyEntryAndNoLots) {
-    IconsListSession list = ListOf(60);
-    list.SetKind(session::kListAni);
-    list.Picture().SetPixelV(0, 0, 0);
-    list.Reset();
-    EXPECT_EQ(list.Last(), 0);
-    ASSERT_EQ(list.Items().size(), 1u);
-    EXPECT_TRUE(list.Items()[0].Name.empty());
-    EXPECT_EQ(list.Controls().LotCount, 0);
-    EXPECT_EQ(list.Picture().GetPixel(0, 0), 0xFFFFFFu);
-    EXPECT_TRUE(list.Empty());
 }
 
 TEST(IconsListSources, FolderListingTakesIcoFilesOfAnyCaseInNameOrder) {

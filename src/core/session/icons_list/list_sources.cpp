@@ -71,6 +71,11 @@ std::vector<std::string> ListFolderFiles(const std::string& folder, const std::s
     return paths;
 }
 
+bool FileThere(const std::string& path) {
+    struct stat st {};
+    return !path.empty() && ::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
+}
+
 std::string FileStem(const std::string& path) {
     const auto slash = path.rfind('/');
     const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);

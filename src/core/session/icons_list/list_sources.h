@@ -14,6 +14,9 @@ namespace vexlo::session {
 std::vector<std::string> ListFolderFiles(const std::string& folder, const std::string& pattern,
                                          std::error_code& ec);
 
+// Whether path names a regular file (a link followed); false for an empty path.
+bool FileThere(const std::string& path);
+
 // The stem of a path's file name: the name without its last extension.
 std::string FileStem(const std::string& path);
 
