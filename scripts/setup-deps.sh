@@ -6,7 +6,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-qpa-plugins libgl-dev libxkbcommon-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  xvfb xauth fonts-dejavu-core xdg-utils poppler-utils
+  xvfb xauth fonts-dejavu-core xdg-utils poppler-utils adwaita-icon-theme
   icoutils libpng-dev
   desktop-file-utils appstream
 )

@@ -154,6 +154,17 @@ public:
     virtual void ShowAbout() {}
     // The help file opened in the user's browser; false when nothing could be started.
     virtual bool OpenHelpFile(const std::string& /*path*/) { return false; }
+    // The icon the desktop shows for the file at path (its type's icon, or a launcher's own),
+    // 32x32 or, with small, 16x16: image drawn over white (transparent pixels 0xFFFFFF), mask
+    // 0 where painted and 0xFFFFFF where transparent. False, with both untouched, when there
+    // is none.
+    virtual bool GetShellIcon(const std::string& /*path*/, bool /*small*/,
+                              surface::Surface& /*image*/, surface::Surface& /*mask*/) {
+        return false;
+    }
+    // picIconsList changed while a lot is drawn: show it (and the progress bar) when the
+    // pending events next run.
+    virtual void RefreshIconsList() {}
 
     // The screen fonts' families, in the order the font list shows them; none without a
     // platform.

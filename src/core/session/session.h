@@ -40,6 +40,7 @@
 
 namespace vexlo::session {
 
+class IconsListFlows;
 using surface::Color;
 using surface::Surface;
 using host::Host;
@@ -334,6 +335,8 @@ public:
     const PrintPanel& PrintFrame() const { return m_print; }
     void ClickPrintControl(PrintControl control, int index);  // fraPrint's options and lists
     void PrintProceed();                                       // cmdPrintProceed
+    // The Icons List and its sources, and the list's state (session_icons_list.h).
+    IconsListFlows Extraction();
 
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
@@ -405,6 +408,7 @@ private:
     void ResetRegionState();
     // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
     friend class RegionToolView;
+    friend class IconsListFlows;
     tools::RegionContext& Region() override { return m_regionTool; }
     void CutRegion(bool copyFirst);
     void CopyToClipboard();

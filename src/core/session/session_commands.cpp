@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "core/session/session.h"
+#include "core/session/session_icons_list.h"
 
 namespace vexlo::session {
 
@@ -120,6 +121,7 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuEnquiryCurrent", [](Session& s, int i) { s.ClickEnquiry(i); }},
         {"mnuHelpHTMLHelp", [](Session& s, int) { s.mnuHelpHTMLHelp(); }},
         {"mnuHelpAbout", [](Session& s, int) { s.host().ShowAbout(); }},
+        {"mnuExtractSub", [](Session& s, int i) { s.Extraction().ClickExtractSub(i); }},
     };
     const auto it = kHandlers.find(array);
     if (it == kHandlers.end()) return false;

@@ -1,6 +1,7 @@
 // The Icons Panel: slot clicks, the one-frame-at-a-time switch, the save question and the
 // commands that put a new icon in the current slot.
 #include "core/session/session.h"
+#include "core/session/session_icons_list.h"
 
 namespace vexlo::session {
 
@@ -133,9 +134,9 @@ void Session::FileOpen(int entry) {
     }
     if (!GuardReplaceCurrent()) return;
     if (entry == 0) OpenIconFile();
+    if (entry == 1) Extraction().OpenFolderList();
     if (entry == 2) OpenCursorFile();
     if (entry == 3) OpenBitmapFile();
-    // Entry 1, all icons of a folder, belongs to the Icons List, which this window lacks yet.
 }
 
 }  // namespace vexlo::session

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QTimer>
 
+#include "gui/icons_list/frm_vexlo_icons_list.h"
 #include "gui/platform/system_info.h"
 #include "gui/platform/surface_view.h"
 
@@ -32,6 +33,7 @@ FrmVexlo::FrmVexlo(std::string commandLine, QWidget* parent)
     });
     BuildMenus();
     BuildLayout();
+    m_host.SetRefreshIconsList([this] { fraIconsList->RefreshDuringLot(); });
     // Sees every event of the program first, to drop input while the session is busy.
     qApp->installEventFilter(this);
     m_session.RefreshToolbar();

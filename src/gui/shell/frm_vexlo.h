@@ -33,6 +33,7 @@ class AdjustColorsFrame;
 class TextFrame;
 class RotateAngleFrame;
 class PrintFrame;
+class IconsListFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -139,6 +140,7 @@ public:
     // The animated cursor session's container over the panel frames (gui/ani).
     AniContainerView* picANIContainer = nullptr;
     PrintFrame* fraPrint = nullptr;
+    IconsListFrame* fraIconsList = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,8 +1,9 @@
 // Files dropped on the main window. One local file that Vexlo opens is taken as the answer of
 // the open dialog of its File Open item, which then runs with every question and message of
 // its own: ICO files as icons, CUR files as cursors, any picture the platform reads as a
-// bitmap. Everything else is refused while it is dragged, so the pointer shows the no-drop
-// sign.
+// bitmap. A folder is taken as the answer of the folder dialog of "Display All Icons In
+// Folder", and shows the Icons List of its ICO files. Everything else is refused while it is
+// dragged, so the pointer shows the no-drop sign.
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -18,6 +19,7 @@ namespace {
 struct DropTarget {
     std::string Item;  // the File Open item the drop stands in for; empty: refused
     std::string Path;
+    bool Folder = false;  // the path answers the folder dialog, not the open dialog
 };
 
 DropTarget TargetOf(const QMimeData* data) {
@@ -25,6 +27,7 @@ DropTarget TargetOf(const QMimeData* data) {
     const QUrl url = data->urls().front();
     if (!url.isLocalFile()) return {};
     const QFileInfo file(url.toLocalFile());
+    if (file.isDir()) return {"mnuFileOpen(1)", file.absoluteFilePath().toStdString(), true};
     if (!file.isFile()) return {};
     const QString ext = file.suffix().toUpper();
     std::string item;
@@ -52,10 +55,14 @@ void FrmVexlo::dropEvent(QDropEvent* event) {
     const DropTarget target = TargetOf(event->mimeData());
     if (target.Item.empty() || m_session.Busy()) return;
     event->acceptProposedAction();
-    m_host.AnswerNextOpen(target.Path);
+    if (target.Folder)
+        m_host.AnswerNextFolder(target.Path);
+    else
+        m_host.AnswerNextOpen(target.Path);
     RunItem(target.Item);
     // A guard that stopped the item before its dialog leaves the answer unused.
     m_host.ClearNextOpen();
+    m_host.ClearNextFolder();
 }
 
 }  // namespace vexlo::gui

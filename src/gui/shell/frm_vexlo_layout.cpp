@@ -12,6 +12,7 @@
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
 #include "gui/ani/ani_container_view.h"
+#include "gui/icons_list/frm_vexlo_icons_list.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/print/frm_vexlo_print.h"
@@ -104,7 +105,8 @@ void FrmVexlo::BuildLayout() {
         frame->setObjectName(QString("fra%1").arg(f));
         if (f != static_cast<int>(session::Frame::ColorsPanel) &&
             f != static_cast<int>(session::Frame::EffectsShades) &&
-            f != static_cast<int>(session::Frame::SaveAsCursor)) {
+            f != static_cast<int>(session::Frame::SaveAsCursor) &&
+            f != static_cast<int>(session::Frame::IconsList)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
@@ -124,6 +126,11 @@ void FrmVexlo::BuildLayout() {
     // picFraContainer, where the container moves, begins 40 pixels above the panel frames.
     picANIContainer = new AniContainerView(*this, m_form, QPoint(kRightLeft - 1, kFramesTop - session::kAniContainerTop));
     fraPrint = new PrintFrame(*this, Frames[session::Frame::Print]);
+    // The Icons List takes the whole height beside the panel: the icon, the mask and the info
+    // labels are empty while it is up.
+    Frames[session::Frame::IconsList]->setGeometry(kRightLeft, kDispTop, kRightWidth, 388 + 48);
+    Frames[session::Frame::IconsList]->setObjectName("fraIconsList");
+    fraIconsList = new IconsListFrame(*this, Frames[session::Frame::IconsList]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

@@ -10,6 +10,7 @@
 #include "gui/effects/frm_vexlo_rotate_angle.h"
 #include "gui/effects/frm_vexlo_text.h"
 #include "gui/ani/ani_container_view.h"
+#include "gui/icons_list/frm_vexlo_icons_list.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/print/frm_vexlo_print.h"
@@ -80,6 +81,7 @@ void FrmVexlo::SyncFromModel() {
     SyncConfineToMono();
     picANIContainer->Sync();
     fraPrint->Sync();
+    fraIconsList->Sync();
     SyncStatus();
 }
 

@@ -15,6 +15,7 @@
 #include "gui/platform/dialog_handlers.h"
 #include "gui/platform/image_convert.h"
 #include "gui/platform/message_box.h"
+#include "gui/platform/shell_icons.h"
 #include "gui/alpha/frm_vexlo_alpha.h"
 #include "gui/platform/text_drawing.h"
 #include "gui/files/frm_vexlo_multi_icon.h"
@@ -123,12 +124,26 @@ utilities::PrinterValues WindowHost::Printer() const {
 }
 
 std::string WindowHost::GetFolderSpec(const std::string& pattern, const std::string& startFolder) {
+    if (m_nextFolder) {
+        std::string folder = std::move(*m_nextFolder);
+        m_nextFolder.reset();
+        return folder;
+    }
     // A scripted folder dialog answers without touching the current directory.
     if (const auto handler = CurrentDialogHandlers().folder)
         return handler(pattern, startFolder, false);
     const QString start = QString::fromStdString(startFolder);
     if (!start.isEmpty() && QFileInfo(start).isDir()) QDir::setCurrent(start);
     return gui::frmDirDialog::Ask(pattern, std::string(), false, QApplication::activeWindow());
+}
+
+bool WindowHost::GetShellIcon(const std::string& path, bool small, surface::Surface& image,
+                              surface::Surface& mask) {
+    return platform::ShellIcon(path, small, image, mask);
+}
+
+void WindowHost::RefreshIconsList() {
+    if (m_refreshList) m_refreshList();
 }
 
 std::vector<std::string> WindowHost::ScreenFonts() { return platform::ScreenFontFamilies(); }

@@ -53,6 +53,10 @@ public:
     // Makes startFolder (when it exists) the current directory and shows frmDirDialog there,
     // not extendable. The folder chosen, or "".
     std::string GetFolderSpec(const std::string& pattern, const std::string& startFolder) override;
+    // The desktop's icon of a file (platform/shell_icons.h).
+    bool GetShellIcon(const std::string& path, bool small, surface::Surface& image,
+                      surface::Surface& mask) override;
+    void RefreshIconsList() override;
     // Text through Qt without smoothing (platform/text_drawing.h).
     std::vector<std::string> ScreenFonts() override;
     std::string FontFamilyUsed(const std::string& name) override;
@@ -73,6 +77,13 @@ public:
     void AnswerNextOpen(std::string path) { m_nextOpen = std::move(path); }
     void ClearNextOpen() { m_nextOpen.reset(); }
 
+    // The next folder dialog is not shown: it answers folder at once, as for a folder dropped
+    // on the window. ClearNextFolder drops an answer that no dialog took.
+    void AnswerNextFolder(std::string folder) { m_nextFolder = std::move(folder); }
+    void ClearNextFolder() { m_nextFolder.reset(); }
+    // What RefreshIconsList calls; set by the Icons List's frame.
+    void SetRefreshIconsList(std::function<void()> refresh) { m_refreshList = std::move(refresh); }
+
     // What RefreshDisplay calls; set by the window that shows the Editing Area.
     void SetRefreshDisplay(std::function<void()> refresh) { m_refresh = std::move(refresh); }
     int HourglassDepth() const { return m_hourglassDepth; }
@@ -84,6 +95,8 @@ private:
     std::function<void()> m_refresh;
     std::unique_ptr<clsVexloDialog> m_dialog;
     std::optional<std::string> m_nextOpen;
+    std::optional<std::string> m_nextFolder;
+    std::function<void()> m_refreshList;
 };
 
 }  // namespace vexlo::gui
