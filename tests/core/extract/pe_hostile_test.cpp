@@ -2,6 +2,8 @@
 // and never more memory than a small multiple of the file's own size.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "allocation_count.h"
 #include "extract_test_files.h"
 
@@ -199,6 +201,19 @@ TEST(PeHostile, EveryByteDamagedInTurnNeverCrashes) {
                 UseWholly(bytes, &allocated);
                 ASSERT_LT(allocated, 2 * bytes.size() + (64u << 10)) << i;
             }
+}
+
+// The fuzzer's seeds in tests/fixtures/pe/ are the sample above as the writer builds it; with
+// VEXLO_WRITE_FIXTURES set this writes them anew.
+TEST(PeHostile, TheFuzzSeedsAreTheSampleAsTheWriterBuildsIt) {
+    const std::pair<const char*, ByteVec> seeds[] = {{"pe/sample_pe32.dll", pe::BuildPe(Sample()).Bytes},
+                                                      {"pe/sample_pe32plus.dll", pe::BuildPe(Sample(), {true}).Bytes},
+                                                      {"pe/sample.res", pe::BuildRes(Sample())}};
+    for (const auto& [name, bytes] : seeds) {
+        if (std::getenv("VEXLO_WRITE_FIXTURES")) WriteBytes(FixturePathOf(name), bytes);
+        EXPECT_EQ(ReadBytes(FixturePathOf(name)), bytes) << name;
+        EXPECT_EQ(OpenLibrary(bytes).CountIconGroups(), 2);
+    }
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <sstream>
 
 #include "core/extract/icon_library.h"
+#include "extract_test_files.h"
 #include "support/test_bytes.h"
 #include "support/test_folder.h"
 
@@ -54,9 +55,21 @@ std::vector<fs::path> SampleFiles() {
 
 TEST(WrestoolCompat, EveryIconGroupEqualsWhatWrestoolWrites) {
     if (std::system("command -v wrestool >/dev/null 2>&1") != 0) GTEST_SKIP() << "wrestool (icoutils) is not installed";
-    const std::vector<fs::path> files = SampleFiles();
+    std::vector<fs::path> files = SampleFiles();
     if (files.empty()) GTEST_SKIP() << "no program files with icons here (apt-get install nsis-common)";
     TestFolder folder("wrestool_compat");
+    // And one of our writer's, with named groups in US English. (wrestool finds a group's
+    // images only in the group's own language, and names the files of one name in several
+    // languages alike, so the library's languages are tested on their own.)
+    const std::uint16_t us = 0x409;
+    const Resource a = IconImage(1, 16, 4, 1, us), b = IconImage(2, 32, 8, 1, us), c = IconImage(3, 48, 32, 2, us);
+    const std::string written = folder.Path("named.dll");
+    WriteBytes(written, pe::BuildPe({a, b, c, IconGroup(0, {EntryFor(a, 16, 4)}, us, u"MAIN"),
+                                     IconGroup(0, {EntryFor(c, 48, 32), EntryFor(b, 32, 8)}, us, u"Second"),
+                                     IconGroup(4, {EntryFor(b, 32, 8), EntryFor(a, 16, 4)}, us)},
+                                    {true})
+                            .Bytes);
+    files.push_back(written);
     int compared = 0;
     for (const fs::path& file : files) {
         SCOPED_TRACE(file.string());
