@@ -2,7 +2,7 @@
 # Builds the libFuzzer targets of fuzz/ with clang (fuzzer, AddressSanitizer and
 # UndefinedBehaviorSanitizer) in build-fuzz/ and runs each for SECONDS (default 60).
 # Corpora live in build-fuzz/corpus/<target>/, seeded from tests/fixtures/ico/ (and the ANI
-# target from tests/fixtures/ani/); an input that crashes is written to
+# target from tests/fixtures/ani/, the PE reader's from tests/fixtures/pe/); an input that crashes is written to
 # build-fuzz/artifacts/<target>/ and the script exits non-zero. Keep such inputs as regression
 # fixtures in tests/fixtures/ico/hostile/.
 #   scripts/fuzz.sh [SECONDS]
@@ -35,6 +35,9 @@ for source in "$root"/fuzz/*_fuzz.cpp; do
   find "$root/tests/fixtures/ico" -name '*.ico' -exec cp -n {} "$corpus/" \;
   if [[ "$target" == ani_* ]]; then
     find "$root/tests/fixtures/ani" -name '*.ani' -exec cp -n {} "$corpus/" \;
+  fi
+  if [[ "$target" == pe_* ]]; then
+    find "$root/tests/fixtures/pe" -type f ! -name '*.md' -exec cp -n {} "$corpus/" \;
   fi
   echo "== $target for ${seconds}s"
   if ! "$build/fuzz/$target" "$corpus" -max_total_time="$seconds" -max_len=32768 -timeout=10 \

@@ -8,6 +8,9 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth fonts-dejavu-core xdg-utils poppler-utils adwaita-icon-theme
   icoutils libpng-dev
+  # nsis-common (1 MB): real PE32 and PE32+ programs with icons, which the extraction tests
+  # compare with wrestool (Wine's DLLs are used too when libwine is installed).
+  nsis-common
   desktop-file-utils appstream
 )
 

@@ -35,6 +35,8 @@ constexpr const char* kUsage =
     "  ani OUT.ani [--jiffies J,...] [--hotspot X,Y] FRAME...\n"
     "                                 an animated cursor of 32x32 pictures, written as\n"
     "                                 the editor writes it\n"
+    "  extract FILE OUTDIR [--list]   every icon and cursor group of a DLL, EXE or .res\n"
+    "                                 file, or the frames of an animated cursor, as files\n"
     "\n"
     "A refused file or argument gives exit status 1 and one line on stderr.\n"
     "'vexlo-cli COMMAND --help' tells more of one command.\n";
@@ -122,6 +124,25 @@ constexpr const char* kConvertHelp =
     "Writes a single-icon file whose depth follows the pixels, as a save in the editor does.\n"
     "--force256 writes 2- and 16-color pictures at 256 colors.\n";
 
+constexpr const char* kExtractHelp =
+    "usage: vexlo-cli extract FILE OUTDIR [--list]\n"
+    "Writes every icon group of a program file (DLL, EXE, ...: PE32 or PE32+, any machine)\n"
+    "or a compiled resource file (.res) as OUTDIR/STEM_GROUP.ico, and every cursor group as\n"
+    "OUTDIR/STEM_GROUP.cur: STEM is FILE's name without its extension, GROUP the resource's\n"
+    "name or number, followed by _LANGUAGE (a number) when the same name occurs in several\n"
+    "languages. Each file is the group's directory rewritten with the images' bytes copied\n"
+    "unchanged; an image the group names but the file lacks is left out. Groups come in the\n"
+    "order of the resource directory (names first, then numbers ascending), icons before\n"
+    "cursors. Prints one line per group: 'group GROUP: N images -> PATH'. A plain icon file\n"
+    "is one group. An animated cursor (.ani) writes each frame as OUTDIR/STEM_K.ico, K from 1\n"
+    "(a cursor frame becomes an icon file of the same images).\n"
+    "--list prints the groups (kind and language) and their images (the number the group\n"
+    "names them by, width x height, bits per pixel, bytes, 'png', a cursor's hot spot, or\n"
+    "'missing') without writing; OUTDIR may then be left out.\n"
+    "A file that is not a program, resource, icon or animated cursor file, a program file\n"
+    "whose headers are cut short or that has no resources, and a file with no icon or cursor\n"
+    "group give exit status 1 and one line on stderr.\n";
+
 bool WantsHelp(const std::vector<std::string>& args) {
     for (const std::string& a : args)
         if (a == "--help" || a == "-h") return true;
@@ -198,7 +219,8 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
     static const Entry kCommands[] = {{"probe", kProbeHelp}, {"info", kInfoHelp},
                                       {"export", kExportHelp}, {"convert", kConvertHelp},
                                       {"split", kSplitHelp}, {"ani", kAniHelp},
-                                      {"alpha", kAlphaHelp}, {"thumbnail", kThumbnailHelp}};
+                                      {"alpha", kAlphaHelp}, {"thumbnail", kThumbnailHelp},
+                                      {"extract", kExtractHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -212,6 +234,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
         if (command == "ani") return AniBuild(rest, err);
         if (command == "alpha") return Alpha(rest, out, err);
         if (command == "thumbnail") return Thumbnail(rest, err);
+        if (command == "extract") return Extract(rest, out, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/files/ico_format.h"
+#include "core/files/icon_image_check.h"
 #include "core/files/ico_probe.h"
 #include "core/files/ico_read.h"
 
@@ -13,51 +14,11 @@ namespace {
 
 using files::ByteReader;
 
-constexpr surface::Color kMaskSet = 0xFFFFFF;
-
-bool IsDepth(int bits) { return bits == 1 || bits == 4 || bits == 8 || bits == 24 || bits == 32; }
-
-// The image's header at its offset, and all its bytes within the data.
 void JudgeImage(Bytes data, FrameImageFacts& f) {
-    ByteReader r(data);
-    r.Seek(f.Offset);
-    const files::BitmapInfoHeader h = files::ReadBitmapInfoHeader(r);
-    if (!r.Ok() || h.Size != files::kBitmapInfoHeaderBytes || !files::IsIconSide(h.Width) ||
-        h.Height != 2 * h.Width || !IsDepth(h.BitCount) || h.Compression != 0)
-        return;
-    const int side = h.Width;
-    const int colors = files::ColorsOfBitCount(h.BitCount);
-    const std::uint64_t table = colors > 0 ? 4 * static_cast<std::uint64_t>(colors) : 0;
-    const std::uint64_t rows =
-        static_cast<std::uint64_t>(files::ColorRowBytes(colors, h.BitCount, side) + files::BitRowBytes(side)) *
-        static_cast<std::uint64_t>(side);
-    if (!r.Has(table + rows)) return;
-    f.Usable = true;
-    f.Side = side;
-    f.BitCount = h.BitCount;
-}
-
-// A 32-bit image with a clear mask keeps its transparency in its alpha values.
-void MaskFromAlpha(files::DecodedIcon& d) {
-    if (!d.TrueColor || d.Alpha.IsSingle()) return;
-    if (std::any_of(d.Mask.begin(), d.Mask.end(), [](surface::Color m) { return m != 0; })) return;
-    const int side = d.Side;
-    bool anyAlpha = false;
-    for (int y = 0; y < side && !anyAlpha; ++y)
-        for (int x = 0; x < side && !anyAlpha; ++x) anyAlpha = d.Alpha.At(x, y) != 0;
-    if (!anyAlpha) return;
-    for (int y = 0; y < side; ++y)
-        for (int x = 0; x < side; ++x)
-            if (d.Alpha.At(x, y) < 128) d.Mask[static_cast<std::size_t>(y * side + x)] = kMaskSet;
-}
-
-surface::Surface AtFrameSide(const std::vector<surface::Color>& pixels, int side) {
-    surface::Surface plane(side, side, 0);
-    std::copy(pixels.begin(), pixels.end(), plane.Data());
-    if (side == 32) return plane;
-    surface::Surface out(32, 32, 0);
-    surface::StretchBlt(out, 0, 0, 32, 32, plane, 0, 0, side, side, surface::Rop::SrcCopy);
-    return out;
+    const files::UsableIconImage u = files::JudgeIconImage(data, f.Offset);
+    f.Usable = u.Usable;
+    f.Side = u.Side;
+    f.BitCount = u.BitCount;
 }
 
 }  // namespace
@@ -108,9 +69,9 @@ bool DecodeFramePlanes(Bytes data, FramePlanes& out) {
     files::DecodedIcon d;
     if (!files::DecodeIconImage(data, f.Offset, f.Side, files::ColorsOfBitCount(f.BitCount), f.BitCount, d))
         return false;
-    MaskFromAlpha(d);
-    out.Image = AtFrameSide(d.Image, f.Side);
-    out.Mask = AtFrameSide(d.Mask, f.Side);
+    files::MaskFromAlpha(d);
+    out.Image = files::PlaneAtSide(d.Image, f.Side, 32);
+    out.Mask = files::PlaneAtSide(d.Mask, f.Side, 32);
     out.HotX = f.HotX;
     out.HotY = f.HotY;
     return true;

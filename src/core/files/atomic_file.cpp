@@ -121,7 +121,7 @@ FileWriteResult AtomicWriteFile(const std::string& path, Bytes data, const Atomi
         failed("cannot set the permissions of " + temp);
     } else if (failAt(AtomicWriteStep::Write) || !WriteAll(fd, data)) {
         failed("cannot write " + temp);
-    } else if (failAt(AtomicWriteStep::Sync) || ::fsync(fd) != 0) {
+    } else if (failAt(AtomicWriteStep::Sync) || (options.Sync && ::fsync(fd) != 0)) {
         failed("cannot flush " + temp);
     }
     if (::close(fd) != 0 && error.empty()) failed("cannot close " + temp);
@@ -131,7 +131,7 @@ FileWriteResult AtomicWriteFile(const std::string& path, Bytes data, const Atomi
         ::unlink(temp.c_str());
         return {false, error, number};
     }
-    SyncFolder(FolderOf(target));
+    if (options.Sync) SyncFolder(FolderOf(target));
     return {true, {}, 0};
 }
 

@@ -14,6 +14,9 @@ struct AtomicWriteOptions {
     // Test seam: the named step fails as if the system had refused it (EIO), after the steps
     // before it have really run; so Write fails with the temporary file created.
     AtomicWriteStep FailAt = AtomicWriteStep::None;
+    // False skips the fsync of the file and of its folder: for tools that write many new files
+    // at once, where each file must appear whole or not at all but need not outlive a crash.
+    bool Sync = true;
 };
 
 struct FileWriteResult {
