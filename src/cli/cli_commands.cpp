@@ -102,8 +102,9 @@ constexpr const char* kAlphaHelp =
 
 constexpr const char* kThumbnailHelp =
     "usage: vexlo-cli thumbnail IN OUT.png [SIZE]\n"
-    "Writes the picture a file manager shows for an icon, cursor or animated cursor file: its\n"
-    "largest image (the deepest of one size; of an animated cursor, of the first frame) as an\n"
+    "Writes the picture a file manager shows for an icon, cursor or animated cursor file, or a\n"
+    "program file (DLL, EXE) with icons: its largest image (the deepest of one size; of an\n"
+    "animated cursor, of the first frame; of a program, of its first icon) as an\n"
     "RGBA PNG that fits SIZE x SIZE pixels (default 128, at most 1024). A smaller image is\n"
     "enlarged by a whole factor, pixel by pixel; a larger one is reduced. Images that cannot\n"
     "be read whole are passed over; a file with none, or one that takes more than two\n"

@@ -1,6 +1,7 @@
-// thumbnail: the picture a file manager shows for an icon, cursor or animated cursor file.
-// The image chosen is the largest of the file (the deepest of one size), or of an animated
-// cursor's first frame; it is scaled to fit SIZE, by whole pixels when enlarged so that the
+// thumbnail: the picture a file manager shows for an icon, cursor or animated cursor file, or
+// for a program file (DLL, EXE) with icons. The image chosen is the largest of the
+// file (the deepest of one size), of an animated cursor's first frame, or of a program's first
+// icon; it is scaled to fit SIZE, by whole pixels when enlarged so that the
 // cells of a small icon stay sharp. A file that takes too long is given up.
 #include <signal.h>
 #include <unistd.h>
@@ -12,6 +13,7 @@
 #include "cli/icon_entries.h"
 #include "cli/png_io.h"
 #include "core/ani/acon_file.h"
+#include "core/extract/icon_library.h"
 
 namespace vexlo::cli {
 
@@ -66,6 +68,9 @@ RgbaImage Fit(const RgbaImage& in, int size) {
     return out;
 }
 
+// A program file (DLL, EXE, ...) starts with "MZ".
+bool IsProgram(const std::vector<std::uint8_t>& data) { return data.size() >= 2 && data[0] == 'M' && data[1] == 'Z'; }
+
 void GiveUp(int) { _exit(1); }
 
 // The time limit while in scope; the signal's handling is put back after it.
@@ -104,6 +109,16 @@ int Thumbnail(const std::vector<std::string>& a, std::string& err) {
         if (!ani::ReadAconFile(bytes, form, why)) return Fail(err, a[0] + ": " + why);
         if (form.FrameCount() < 1) return Fail(err, a[0] + ": an animated cursor without frames");
         bytes = form.FrameBytes(bytes, 0);
+    }
+    // A program's first icon, rebuilt as an icon file of its own.
+    std::vector<std::uint8_t> firstIcon;
+    if (IsProgram(data)) {
+        extract::IconLibrary library;
+        const extract::OpenResult opened = library.OpenBytes(std::move(data));  // bytes is set anew below
+        if (!opened) return Fail(err, a[0] + ": " + opened.Message);
+        firstIcon = library.RebuildGroupFile(library.IconGroupIndex(0));
+        if (firstIcon.empty()) return Fail(err, a[0] + ": " + library.NoIconsMessage());
+        bytes = files::Bytes(firstIcon.data(), firstIcon.size());
     }
     EntryImage image;
     if (!BestImage(bytes, image, why)) return Fail(err, a[0] + ": " + why);

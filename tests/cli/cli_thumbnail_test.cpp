@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "cli/cli_test_support.h"
+#include "core/extract/extract_test_files.h"
 #include "core/files/ico_write.h"
 #include "support/test_folder.h"
 
@@ -50,13 +51,36 @@ TEST(CliThumbnail, TheLargestImageFitsTheSizeByWholePixels) {
     EXPECT_EQ(Cli({"thumbnail", Fixture("ico", "icotool_16_1bit.ico"), folder.Path("t.png"), "0"}).code, 1);
 }
 
+// A program's thumbnail is its first icon's largest image; one without icons is refused.
+TEST(CliThumbnail, AProgramShowsItsFirstIcon) {
+    TestFolder folder{"vexlo_thumbnail_pe"};
+    const Resource small = IconImage(1, 16, 24, 0x0000FF), large = IconImage(2, 32, 24, 0x00FF00),
+                   other = IconImage(3, 48, 24, 0xFF0000);
+    const ByteVec program = pe::BuildPe({small, large, other, IconGroup(7, {EntryFor(small, 16, 24), EntryFor(large, 32, 24)}),
+                                         IconGroup(9, {EntryFor(other, 48, 24)})})
+                                .Bytes;
+    WriteBytes(folder.Path("app.exe"), program);
+    const CliResult r = Cli({"thumbnail", folder.Path("app.exe"), folder.Path("t.png"), "64"});
+    ASSERT_EQ(r.code, 0) << r.err;
+    const cli::RgbaImage image = ReadPngFile(folder.Path("t.png"));
+    EXPECT_EQ(image.Width, 64);
+    // The 32x32 of the first group, green, twice over; not its 16x16 (red) nor the 48x48 (blue).
+    for (const auto& [x, y] : {std::pair{0, 0}, std::pair{63, 63}}) EXPECT_EQ(PixelAt(image, x, y), (Rgba{0, 255, 0, 255}));
+
+    WriteBytes(folder.Path("plain.dll"), pe::BuildPe({}).Bytes);
+    const CliResult none = Cli({"thumbnail", folder.Path("plain.dll"), folder.Path("n.png")});
+    EXPECT_EQ(none.code, 1);
+    EXPECT_NE(none.err.find("plain.dll: "), std::string::npos) << none.err;
+    EXPECT_FALSE(fs::exists(folder.Path("n.png")));
+}
+
 TEST(CliThumbnail, EveryFixtureEndsWithZeroOrOne) {
     TestFolder folder{"vexlo_thumbnail_all"};
     int files = 0;
     for (const auto& entry : fs::recursive_directory_iterator(VEXLO_FIXTURES_DIR)) {
         if (!entry.is_regular_file()) continue;
         const std::string ext = entry.path().extension().string();
-        if (ext != ".ico" && ext != ".cur" && ext != ".ani") continue;
+        if (ext != ".ico" && ext != ".cur" && ext != ".ani" && ext != ".dll") continue;
         ++files;
         const std::string command = std::string("'") + VEXLO_CLI_PROGRAM + "' thumbnail '" + entry.path().string() +
                                     "' '" + folder.Path("t.png") + "' 96 2>/dev/null";

@@ -60,6 +60,21 @@ TEST_F(DropTest, AnIconFileOpensInTheCurrentSlot) {
     EXPECT_EQ(window->session().Icon().Image().GetPixel(3, 3), 0x0000FFu);
 }
 
+TEST_F(DropTest, AnAnimatedCursorOpensInItsSessionWhetherItIsUpOrNot) {
+    const std::string ani = std::string(VEXLO_FIXTURES_DIR) + "/ani/ico4bit_70.ani";
+    QMimeData data;
+    SetFile(data, ani);
+    ASSERT_TRUE(Drop(data));
+    const session::AniSession& session = window->session().Ani();
+    ASSERT_TRUE(session.ContainerVisible());
+    EXPECT_EQ(session.FrameCount(), 70);
+    EXPECT_EQ(host.PendingDialogAnswers(), 0u);
+    // A second drop while the session is up goes to its Open button as it stands.
+    window->session().ClickAniButton(3);  // New: no frames, nothing to lose
+    ASSERT_TRUE(Drop(data));
+    EXPECT_EQ(session.FrameCount(), 70);
+}
+
 TEST_F(DropTest, OtherDropsAreRefused) {
     QMimeData text;
     text.setText("red.ico");

@@ -1,7 +1,8 @@
 // Files dropped on the main window. One local file that Vexlo opens is taken as the answer of
 // the open dialog of its File Open item, which then runs with every question and message of
 // its own: ICO files as icons, CUR files as cursors, any picture the platform reads as a
-// bitmap. A folder is taken as the answer of the folder dialog of "Display All Icons In
+// bitmap. An ANI file opens the animated cursor session (or brings it back) and answers the
+// open dialog of its Open button. A folder is taken as the answer of the folder dialog of "Display All Icons In
 // Folder", and shows the Icons List of its ICO files. Everything else is refused while it is
 // dragged, so the pointer shows the no-drop sign.
 #include <QDragEnterEvent>
@@ -22,6 +23,10 @@ struct DropTarget {
     bool Folder = false;  // the path answers the folder dialog, not the open dialog
 };
 
+// The animated cursor session's item; its Open button follows (cmdANI(4)).
+constexpr const char* kAniItem = "mnuANIFileCreateOrEdit";
+constexpr int kAniOpenButton = 4;
+
 DropTarget TargetOf(const QMimeData* data) {
     if (data == nullptr || !data->hasUrls() || data->urls().size() != 1) return {};
     const QUrl url = data->urls().front();
@@ -35,7 +40,9 @@ DropTarget TargetOf(const QMimeData* data) {
         item = "mnuFileOpen(0)";
     else if (ext == "CUR")
         item = "mnuFileOpen(2)";
-    else if (ext != "ANI" && QImageReader(file.filePath()).canRead())
+    else if (ext == "ANI")
+        item = kAniItem;
+    else if (QImageReader(file.filePath()).canRead())
         item = "mnuFileOpen(3)";
     if (item.empty()) return {};
     return {item, file.absoluteFilePath().toStdString()};
@@ -58,8 +65,11 @@ void FrmVexlo::dropEvent(QDropEvent* event) {
     if (target.Folder)
         m_host.AnswerNextFolder(target.Path);
     else
-        m_host.AnswerNextOpen(target.Path);
+        m_host.AnswerNextOpen(target.Path);  // for the ANI session, its Open button's dialog
     RunItem(target.Item);
+    // The session's own questions may have kept it from coming up.
+    if (target.Item == kAniItem && m_session.Ani().ContainerVisible())
+        Run([](session::Session& s) { s.ClickAniButton(kAniOpenButton); });
     // A guard that stopped the item before its dialog leaves the answer unused.
     m_host.ClearNextOpen();
     m_host.ClearNextFolder();

@@ -4,11 +4,6 @@ namespace vexlo::session {
 
 using surface::Rop;
 
-LibraryIconSource& DefaultLibraryIcons() {
-    static LibraryIconSource none;
-    return none;
-}
-
 namespace {
 
 bool Usable(const LibraryIcon& icon) {

@@ -34,7 +34,7 @@ public:
     }
 };
 
-// The reader the session uses: today it finds no icons in any file.
+// The reader the session uses: our own reader of library files (library_file_icons.h).
 LibraryIconSource& DefaultLibraryIcons();
 
 // Draws the icon at (x, y) of target at side x side as the platform does with DI_NORMAL: the
