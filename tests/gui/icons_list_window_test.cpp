@@ -17,6 +17,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/extract/extract_test_files.h"
 #include "core/files/ico_write.h"
 #include "core/session/session_icons_list.h"
 #include "gui/icons_list/frm_vexlo_icons_list.h"
@@ -158,6 +159,25 @@ TEST_F(IconsListWindowTest, TheIconsOfAFileTypeFromTheTheme) {
             if (S().Icon().Mask().GetPixel(x, y) == 0) ++painted;
             else EXPECT_EQ(S().Icon().Image().GetPixel(x, y), 0u);
     EXPECT_GT(painted, 20);
+}
+
+TEST_F(IconsListWindowTest, TheLargeIconsOfAProgramFile) {
+    // Five icon groups of 16x16 images in five colors, shown enlarged to 32x32.
+    const std::uint32_t colors[] = {0x0000FF, 0x00A000, 0xFF0000, 0x00C0C0, 0x800080};
+    std::vector<Resource> res;
+    for (std::uint16_t g = 1; g <= 5; ++g) {
+        res.push_back(IconImage(g, 16, 24, colors[g - 1]));
+        res.push_back(IconGroup(g, {EntryFor(res.back(), 16, 24)}));
+    }
+    WriteBytes(folder.Path("tools.dll"), pe::BuildPe(res).Bytes);
+    host.AnswerOpen(folder.Path("tools.dll"));
+    window->Item("mnuExtractSub(1)")->trigger();
+    ASSERT_EQ(S().Form().VisibleFrame, Frame::IconsList);
+    ASSERT_EQ(List().Items().size(), 5u);
+    Shot("icons_list_program_file");
+    QTest::mouseClick(ListFrame().picIconsList, Qt::LeftButton, {}, QPoint(76 + 30, 30));
+    EXPECT_EQ(S().Current().SizeCode, 2);
+    EXPECT_EQ(S().Panel().PanelIcon(0).GetPixel(31, 31), colors[1]);
 }
 
 TEST(ShellIcons, ALauncherShowsItsOwnIconAndAPictureItsAlphaAsMask) {
