@@ -1,15 +1,14 @@
 #pragma once
 // The editing session of the main window: the one front door that the window's handlers call.
 // It owns its parts, each with its own state and folder, and runs the flows that cross them:
-//   EditedIcon        the planes, the composed icon, the undo history
-//   IconsPanel        the six slots, their records, alpha values and panel pictures
+//   EditedIcon, IconsPanel   the planes and undo history; the six slots and their pictures
 //   EditingView       picDisp, the grid, the zoom, the Region's marks and the rubber band
-//   EffectsPanels     what the effect frames keep while they are up
+//   EffectsPanels, ColorMixer   what the effect frames keep while up; the Color Mixer
 //   FloatingRegion, ShiftPad   the floating Region; Shift Directions and its pad
 //   AniSession, IconsListSession   the animated cursor session and the Icons List
-//   ColorMixer        the Color Mixer's bars and strip
-// The window redraws itself from the parts' pictures and the FormState; nothing here knows
-// about widgets.
+// Larger groups of flows are handles on it: Frames() (session_effect_frames.h), Extraction()
+// (session_icons_list.h); the tools see SessionToolView. The window redraws itself from the
+// parts' pictures and the FormState; nothing here knows about widgets.
 #include <array>
 #include <functional>
 #include <optional>
@@ -17,8 +16,6 @@
 #include <string_view>
 
 #include "core/files/ico_write.h"
-#include "core/host/host.h"
-#include "core/icon/icon_colors.h"
 #include "core/session/ani_frames/ani_session.h"
 #include "core/session/color_mixer/color_mixer.h"
 #include "core/session/edited_icon/edited_icon.h"
@@ -33,30 +30,17 @@
 #include "core/session/session_basics.h"
 #include "core/session/region/floating_region.h"
 #include "core/session/region/region_tool_view.h"
+#include "core/session/session_tool_view.h"
 #include "core/session/settings/file_history_menu.h"
 #include "core/session/shift_pad/shift_pad.h"
 #include "core/tools/tool_state.h"
-#include "core/tools/tool_strategy.h"
 
 namespace vexlo::session {
 
 class IconsListFlows;
-using surface::Color;
-using surface::Surface;
-using host::Host;
-using host::kCrLf;
-using host::kTitle;
-using host::MsgAnswer;
-using host::MsgButtons;
-using host::MsgIcon;
-using host::MultiIconAnswer;
-using host::NullHost;
-using icon::kBlack;
-using icon::kTransparentGray;
-using icon::kWhite;
-using icon::kWindowColor;
+class EffectFrames;
 
-class Session : private tools::ToolContext {
+class Session {
 public:
     explicit Session(Host& host);
     Session(const Session&) = delete;
@@ -184,65 +168,7 @@ public:
     void DoubleClickColorToUse() { m_form.ColorDoubleClicked = true; }
     void ReleaseOnColorToUse();
     void PopColorChart();
-
-    // --- Shades effects (session_shades.cpp) ------------------------------------------------
-    // mnuEffectsSub(1..7): the frame and its first preview.
-    void ClickEffectsSub(int index);
-    void ClickUseSelectedColor(bool checked);
-    void CastSliderChanged(int value);
-    void CastComboClicked(int element, int listIndex);
-    void ShadesProceed();   // cmdShadesProceed(0)
-    void ShadesRestore();   // cmdShadesProceed(1)
-
-    // --- Buttonize and Adjust Painted Colors (session_buttonize.cpp, session_adjust_colors.cpp)
-    void ClickButtonizePattern(int index);  // cboButtonizePattern, picButtonize(index)
-    void ButtonizeProceed();                // cmdButtonizeProceed
-    void ClickEffectsAdjustPaintedColors();  // mnuEffectsAdjustPaintedColors
-    void ClickBrightnessAdj(int listIndex);  // cboBrightNessAdj
-    void ClickColorAdj(int element, int listIndex);  // cboColorAdj(element)
-    void AdjustColorsProceed(int index);     // cmdAdjustColorsProceed(0 Proceed, 1 Restore)
-
-    // --- Text (session_text.cpp) -------------------------------------------------------------
-    void ClickEffectsText();  // mnuEffectsText
-    void SetWriteText(const std::string& text);  // txbWriteText
-    void ClickTextWriteStyle(int index);
-    void ClickFontName(int index);
-    void ClickFontSize(int index);
-    void ClickFontStyle(int i);  // imgFontStyle(0 Bold, 1 Italic)
-    void ClickTextColor();
-    void TextAngleChanged(int value);  // HsbTextWriteSampleAngle
-    void AddTextProceed();             // cmdAddTextProceed
-
-    // --- Rotate at any angle (session_rotate_angle.cpp) -------------------------------------
-    void ClickRotateSelectAngle();  // mnuRotateSubmenu(4)
-    void RotateAngleSliderChanged(int value);  // hsrRotateAngle
-    void ClickRotateAngleList(int listIndex);  // cboRotateAngle
-    void ClickRotateAntiAlias(bool checked);   // ckbRotateAntiAlias
-    void RotateSelectAngleProceed();           // cmdRotateSelectAngleProceed
-    // --- Gradient Unpainted Area (session_gradient.cpp) -------------------------------------
-    void ClickGradientType(int k);       // OptGradType(k)
-    void ClickGradientAngle(int index);  // cboGradientAngle
-    void ClickGradientColor(int i);      // cmdGradientColor(i)
-    // A pointer press on PicGradient(k) at (x, y) in its pixels.
-    void PressOnGradient(int k, Button button, int x, int y);
-    void GradientProceed();              // cmdGradientProceed
-
-    // --- Expand, Shrink and Confine (session_resize_confine.cpp) ------------------------------
-    void ClickMonoThreshold(int index);  // cboConfineToMonoThreshold
-    void ConfineToMonoProceed();         // cmdConfineToMonoProceed
-
-    // --- Color Mixer and palette files (session_color_mixer.cpp) ---------------------------
-    void ChangeMixBar(int i, int value);  // HsrRGB(i) change
-    void ScrollMixBar(int i, int value);  // HsrRGB(i) scroll, while its thumb is dragged
-    void ClickAdjMix(int element);        // cmdAdjMix(element)
-    // The pointer on picMixGradient at (x, y) in its pixels.
-    void PointerOverMixStrip(int x, int y);
-    void PressOnMixStrip(int x, int y);
-    void ReleaseOnMixStrip(int x, int y);
-    // A pointer release on PicRGB(0..2), or on PicRGBMix (3).
-    void ReleaseOnMixSwatch(int i);
-    void LoadPalette();  // picLoadPalette, mnuPaletteSub(3)
-    void SavePalette();  // picSavePalette, mnuPaletteSub(4)
+    EffectFrames Frames();  // the effect frames and the Color Mixer (session_effect_frames.h)
 
     // --- Status bar (session_status.cpp) ----------------------------------------------------
     // A fresh icon in the Editing Area: tools cleared, progress hidden, the status panels
@@ -381,43 +307,19 @@ private:
     std::string AskOpen(const char* filter, const char* defaultExt);
     // The pointer's event for the tools, in picDisp pixels and cells.
     tools::ToolEvent ToolEventAt(int x, int y, bool modifier) const;
-    // What the tools see of the session (session_pointer.cpp).
-    Surface& Image() override;
-    Surface& Mask() override;
-    const Surface& Composed() const override;
-    Surface& Temp() override;
-    Surface& ImageTemp() override;
-    Surface& Disp() override;
-    tools::DispRect& Band() override;
-    tools::DispRect& RegionRect() override;
-    tools::DrawState& Draw() override;
-    Color Selected() const override;
-    int BrushIndex() const override;
-    int MagnifyStep() const override;
-    void ShowStroke() override;
-    void Apply(const std::function<void(Surface& image, Surface& mask)>& edit) override;
-    void Record() override;
-    void MarkChanged() override;
-    void RefreshDisplay() override;
+    friend class SessionToolView;  // what the tools see of the session (session_pointer.cpp)
+    friend class EffectFrames;
     void ShowRegionMeasure();
-    // The Effects menu's gradient, size and color entries.
-    void mnuEffectsGradientUnpaintedArea();
-    void ResizeIcon(bool expand);  // mnuEffectsExpand, mnuEffectsShrink
-    void mnuEffectsConfineColorsTo16();
-    void mnuEffectsConfineColorsTo2();
     void ResetRegionState();
     // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
     friend class RegionToolView;
     friend class IconsListFlows;
-    tools::RegionContext& Region() override { return m_regionTool; }
     void CutRegion(bool copyFirst);
     void CopyToClipboard();
     void PasteClipboard(bool seeThrough);
     void PutNewIcon(int sizeCode);  // File New's empty icon of the size, shown
     void TransformIcon(Surface (*transform)(const Surface&), bool quarterTurn);
     void CreateColorCharts();
-    void RunShadesPreview();
-    void OpenButtonize();
     // The placed text handed over as a see-through floating Region at the icon's top left,
     // with the Region tool selected and the Text frame left up (session_region.cpp).
     void HandOverTextRegion(const Surface& picture);
@@ -432,7 +334,7 @@ private:
     bool AskAniDiscard();        // true unless frames are unsaved and the user keeps them
     bool OpenAniFromCommandLine(const std::string& path);
     // Lets the platform run pending events (DoEvents), with Busy() true meanwhile.
-    void LetPendingEventsRun() override;
+    void LetPendingEventsRun();
     // Every entry from the window starts here: none may start while pending events run in
     // the middle of another (checked in debug builds; the window drops such input).
     void Enter() const;
@@ -444,6 +346,7 @@ private:
     EffectsPanels m_effects;
     FloatingRegion m_floating;
     RegionToolView m_regionTool{*this};
+    SessionToolView m_toolView{*this};
     ShiftPad m_shift;
     AniSession m_ani;
     ColorMixer m_mixer;

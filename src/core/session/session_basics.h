@@ -1,8 +1,11 @@
 #pragma once
 // What the session and the window's entry point share beside the Session class: the
 // directories found at start, the window's place, the outcome of the command line, and the
-// texts and rules of the start-up (session_lifecycle.cpp).
+// texts and rules of the start-up (session_lifecycle.cpp), and the names every session file
+// uses from the lower layers (session_names.h).
 #include <string>
+
+#include "core/session/session_names.h"
 
 namespace vexlo::session {
 

@@ -2,6 +2,7 @@
 #include "core/color/color_charts.h"
 #include "core/files/ico_write.h"
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 
 namespace vexlo::session {
 
@@ -31,8 +32,8 @@ void Session::ClickPaletteSub(int index) {
     if (m_form.VisibleFrame != Frame::ColorsPanel) return;
     if (index == 0 && m_form.PaletteMode != 0) SwitchTo16ColorChart();
     if (index == 1 && m_form.PaletteMode != 1) SwitchTo256ColorChart();
-    if (index == 3) LoadPalette();
-    if (index == 4) SavePalette();
+    if (index == 3) Frames().LoadPalette();
+    if (index == 4) Frames().SavePalette();
 }
 
 void Session::SetPaletteModeForIcon() {

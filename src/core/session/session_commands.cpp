@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "core/session/session_icons_list.h"
 
 namespace vexlo::session {
@@ -86,15 +87,15 @@ bool Session::RunMenuItem(std::string_view name) {
         {"mnuOptionsRemindIfBMP",
          [](Session& s, int) { s.m_form.RemindIfBmpChecked = !s.m_form.RemindIfBmpChecked; }},
         {"mnuBrushSize", [](Session& s, int i) { s.ClickBrushSize(i); }},
-        {"mnuEffectsSub", [](Session& s, int i) { s.ClickEffectsSub(i); }},
-        {"mnuEffectsText", [](Session& s, int) { s.ClickEffectsText(); }},
+        {"mnuEffectsSub", [](Session& s, int i) { s.Frames().ClickEffectsSub(i); }},
+        {"mnuEffectsText", [](Session& s, int) { s.Frames().ClickEffectsText(); }},
         {"mnuEffectsAdjustPaintedColors",
-         [](Session& s, int) { s.ClickEffectsAdjustPaintedColors(); }},
-        {"mnuEffectsGradientUnpaintedArea", [](Session& s, int) { s.mnuEffectsGradientUnpaintedArea(); }},
-        {"mnuEffectsExpand", [](Session& s, int) { s.ResizeIcon(true); }},
-        {"mnuEffectsShrink", [](Session& s, int) { s.ResizeIcon(false); }},
-        {"mnuEffectsConfineColorsTo16", [](Session& s, int) { s.mnuEffectsConfineColorsTo16(); }},
-        {"mnuEffectsConfineColorsTo2", [](Session& s, int) { s.mnuEffectsConfineColorsTo2(); }},
+         [](Session& s, int) { s.Frames().ClickEffectsAdjustPaintedColors(); }},
+        {"mnuEffectsGradientUnpaintedArea", [](Session& s, int) { s.Frames().mnuEffectsGradientUnpaintedArea(); }},
+        {"mnuEffectsExpand", [](Session& s, int) { s.Frames().ResizeIcon(true); }},
+        {"mnuEffectsShrink", [](Session& s, int) { s.Frames().ResizeIcon(false); }},
+        {"mnuEffectsConfineColorsTo16", [](Session& s, int) { s.Frames().mnuEffectsConfineColorsTo16(); }},
+        {"mnuEffectsConfineColorsTo2", [](Session& s, int) { s.Frames().mnuEffectsConfineColorsTo2(); }},
         {"mnuANIFileCreateOrEdit", [](Session& s, int) { s.mnuANIFileCreateOrEdit(); }},
         {"mnuPaletteSub", [](Session& s, int i) { s.ClickPaletteSub(i); }},
         {"mnuTools",

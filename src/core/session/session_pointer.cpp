@@ -17,7 +17,7 @@ void Session::PointerPressed(Button button, int x, int y) {
     const tools::ToolEvent e = ToolEventAt(x, y, false);
     m_draw.CellX = e.CellX;
     m_draw.CellY = e.CellY;
-    if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Press(*this, e);
+    if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Press(m_toolView, e);
 }
 
 void Session::PointerMoved(int x, int y, bool modifierDown) {
@@ -35,7 +35,7 @@ void Session::PointerMoved(int x, int y, bool modifierDown) {
     m_draw.CellY = e.CellY;
     PointerOverDisp(x, y);
     if (!AnyToolSelected()) return;
-    if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Move(*this, e);
+    if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Move(m_toolView, e);
 }
 
 void Session::PointerReleased(int x, int y, bool shiftDown) {
@@ -56,34 +56,38 @@ void Session::PointerReleased(int x, int y, bool shiftDown) {
         Current().Changed = true;
         m_draw.CellX = e.CellX;
         m_draw.CellY = e.CellY;
-        if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Release(*this, e);
+        if (const tools::ToolStrategy* tool = tools::StrategyOf(m_form.SelectedTool)) tool->Release(m_toolView, e);
     }
     RefreshToolbar();
 }
 
 // --- What the tools see ------------------------------------------------------------------
 
-Surface& Session::Image() { return m_icon.Image(); }
-Surface& Session::Mask() { return m_icon.Mask(); }
-const Surface& Session::Composed() const { return m_icon.Composed(); }
-Surface& Session::Temp() { return m_icon.Temp(); }
-Surface& Session::ImageTemp() { return m_icon.ImageTemp(); }
-Surface& Session::Disp() { return m_view.Disp(); }
-tools::DispRect& Session::Band() { return m_view.Band(); }
-tools::DispRect& Session::RegionRect() { return m_view.Region().Rect; }
-tools::DrawState& Session::Draw() { return m_draw; }
-Color Session::Selected() const { return m_selectedColor; }
-int Session::BrushIndex() const { return m_form.BrushSizeIndex; }
-int Session::MagnifyStep() const { return m_view.MagnifyStep(); }
-void Session::MarkChanged() { Current().Changed = true; }
-void Session::RefreshDisplay() { m_host.RefreshDisplay(); }
-void Session::Record() { TakeUndoSnapshot(); }
+Surface& SessionToolView::Image() { return m_s.m_icon.Image(); }
+Surface& SessionToolView::Mask() { return m_s.m_icon.Mask(); }
+const Surface& SessionToolView::Composed() const { return m_s.m_icon.Composed(); }
+Surface& SessionToolView::Temp() { return m_s.m_icon.Temp(); }
+Surface& SessionToolView::ImageTemp() { return m_s.m_icon.ImageTemp(); }
+Surface& SessionToolView::Disp() { return m_s.m_view.Disp(); }
+tools::DispRect& SessionToolView::Band() { return m_s.m_view.Band(); }
+tools::DispRect& SessionToolView::RegionRect() { return m_s.m_view.Region().Rect; }
+tools::DrawState& SessionToolView::Draw() { return m_s.m_draw; }
+Color SessionToolView::Selected() const { return m_s.m_selectedColor; }
+int SessionToolView::BrushIndex() const { return m_s.m_form.BrushSizeIndex; }
+int SessionToolView::MagnifyStep() const { return m_s.m_view.MagnifyStep(); }
+void SessionToolView::MarkChanged() { m_s.Current().Changed = true; }
+void SessionToolView::RefreshDisplay() { m_s.m_host.RefreshDisplay(); }
+void SessionToolView::Record() { m_s.TakeUndoSnapshot(); }
+void SessionToolView::LetPendingEventsRun() { m_s.LetPendingEventsRun(); }
+tools::RegionContext& SessionToolView::Region() { return m_s.m_regionTool; }
 
-void Session::ShowStroke() {
-    ComposeIcon();
-    MagnifyIcon();
+void SessionToolView::ShowStroke() {
+    m_s.ComposeIcon();
+    m_s.MagnifyIcon();
 }
 
-void Session::Apply(const std::function<void(Surface& image, Surface& mask)>& edit) { ApplyToIcon(edit); }
+void SessionToolView::Apply(const std::function<void(Surface& image, Surface& mask)>& edit) {
+    m_s.ApplyToIcon(edit);
+}
 
 }  // namespace vexlo::session

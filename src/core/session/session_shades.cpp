@@ -1,58 +1,60 @@
 // The shades effects on the current icon: the frame, its preview pair, Proceed and Restore.
-#include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 
 namespace vexlo::session {
 
-void Session::ClickEffectsSub(int index) {
+EffectFrames Session::Frames() { return EffectFrames(*this); }
+
+void EffectFrames::ClickEffectsSub(int index) {
     if (index < 0 || index > 7) return;
-    if (!NeedsIconInArea()) return;
-    ClearTools();
-    ResetDrawState();
+    if (!m_s.NeedsIconInArea()) return;
+    m_s.ClearTools();
+    m_s.ResetDrawState();
     if (index == 0) return OpenButtonize();  // Buttonize has a frame of its own
     if (!effects::ShadesFrameOf(index)) return;
-    ShowFrame(Frame::EffectsShades);
-    m_formLoading = true;
-    m_effects.OpenShades(index);
-    m_formLoading = false;
+    m_s.ShowFrame(Frame::EffectsShades);
+    m_s.m_formLoading = true;
+    m_s.m_effects.OpenShades(index);
+    m_s.m_formLoading = false;
     RunShadesPreview();
 }
 
-void Session::RunShadesPreview() {
-    host::Hourglass hourglass(m_host);
-    m_effects.PreviewShades(m_icon.Planes(), m_selectedColor);
-    LetPendingEventsRun();
+void EffectFrames::RunShadesPreview() {
+    host::Hourglass hourglass(m_s.m_host);
+    m_s.m_effects.PreviewShades(m_s.m_icon.Planes(), m_s.m_selectedColor);
+    m_s.LetPendingEventsRun();
 }
 
-void Session::ClickUseSelectedColor(bool checked) {
-    Enter();
-    m_effects.UseSelectedColor(checked, m_icon.Planes(), m_selectedColor);
+void EffectFrames::ClickUseSelectedColor(bool checked) {
+    m_s.Enter();
+    m_s.m_effects.UseSelectedColor(checked, m_s.m_icon.Planes(), m_s.m_selectedColor);
 }
 
-void Session::CastSliderChanged(int value) {
-    Enter();
-    m_effects.CastSliderChanged(value, m_formLoading, m_icon.Planes());
+void EffectFrames::CastSliderChanged(int value) {
+    m_s.Enter();
+    m_s.m_effects.CastSliderChanged(value, m_s.m_formLoading, m_s.m_icon.Planes());
 }
 
-void Session::CastComboClicked(int element, int listIndex) {
-    Enter();
-    m_effects.CastComboClicked(element, listIndex, m_formLoading, m_icon.Planes());
+void EffectFrames::CastComboClicked(int element, int listIndex) {
+    m_s.Enter();
+    m_s.m_effects.CastComboClicked(element, listIndex, m_s.m_formLoading, m_s.m_icon.Planes());
 }
 
-void Session::ShadesRestore() {
-    Enter();
-    m_formLoading = true;
-    m_effects.RestoreCast(m_icon.Planes());
-    m_formLoading = false;
+void EffectFrames::ShadesRestore() {
+    m_s.Enter();
+    m_s.m_formLoading = true;
+    m_s.m_effects.RestoreCast(m_s.m_icon.Planes());
+    m_s.m_formLoading = false;
 }
 
-void Session::ShadesProceed() {
-    Enter();
-    if (!Shades().Preview || !InArea()) return;
+void EffectFrames::ShadesProceed() {
+    m_s.Enter();
+    if (!m_s.Shades().Preview || !m_s.InArea()) return;
     {
-        host::Hourglass hourglass(m_host);
-        ApplyToIcon([this](Surface& image, Surface& mask) { m_effects.ProceedShades(image, mask); });
+        host::Hourglass hourglass(m_s.m_host);
+        m_s.ApplyToIcon([this](Surface& image, Surface& mask) { m_s.m_effects.ProceedShades(image, mask); });
     }
-    ShowFrame(Frame::ColorsPanel);
+    m_s.ShowFrame(Frame::ColorsPanel);
 }
 
 }  // namespace vexlo::session

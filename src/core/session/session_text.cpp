@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 
 namespace vexlo::session {
 namespace {
@@ -19,91 +19,91 @@ constexpr const char* kNoFontsText = "No screen font available in system.";
 
 }  // namespace
 
-void Session::ClickEffectsText() {
-    if (!NeedsIconInArea()) return;
-    TextPanel& text = m_effects.Text();
+void EffectFrames::ClickEffectsText() {
+    if (!m_s.NeedsIconInArea()) return;
+    TextPanel& text = m_s.m_effects.Text();
     if (!text.FontsLoaded()) {
-        text.SetFonts(m_host.ScreenFonts());
+        text.SetFonts(m_s.m_host.ScreenFonts());
         text.ShowTextSample();
     }
-    ShowFrame(Frame::Text);
+    m_s.ShowFrame(Frame::Text);
     text.Open();
 }
 
-void Session::SetWriteText(const std::string& value) {
-    Enter();
-    m_effects.Text().SetText(value);
+void EffectFrames::SetWriteText(const std::string& value) {
+    m_s.Enter();
+    m_s.m_effects.Text().SetText(value);
 }
 
-void Session::ClickTextWriteStyle(int index) {
-    Enter();
-    m_effects.Text().ChooseWriteStyle(index);
+void EffectFrames::ClickTextWriteStyle(int index) {
+    m_s.Enter();
+    m_s.m_effects.Text().ChooseWriteStyle(index);
 }
 
-void Session::ClickFontName(int index) {
-    Enter();
-    TextPanel& text = m_effects.Text();
+void EffectFrames::ClickFontName(int index) {
+    m_s.Enter();
+    TextPanel& text = m_s.m_effects.Text();
     text.ChooseFont(index);
     const std::string name = text.FontName();
-    if (!SameIgnoringCase(m_host.FontFamilyUsed(name), name)) {
-        m_host.MsgBox(effects::FontNotAvailableText(name), MsgButtons::Ok, MsgIcon::None, kTitle);
+    if (!SameIgnoringCase(m_s.m_host.FontFamilyUsed(name), name)) {
+        m_s.m_host.MsgBox(effects::FontNotAvailableText(name), MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }
     text.ShowTextSample();
 }
 
-void Session::ClickFontSize(int index) {
-    Enter();
-    m_effects.Text().ChooseFontSize(index);
-    m_effects.Text().ShowTextSample();
+void EffectFrames::ClickFontSize(int index) {
+    m_s.Enter();
+    m_s.m_effects.Text().ChooseFontSize(index);
+    m_s.m_effects.Text().ShowTextSample();
 }
 
-void Session::ClickFontStyle(int i) {
-    Enter();
-    m_effects.Text().FlipFontStyle(i);
-    m_effects.Text().ShowTextSample();
+void EffectFrames::ClickFontStyle(int i) {
+    m_s.Enter();
+    m_s.m_effects.Text().FlipFontStyle(i);
+    m_s.m_effects.Text().ShowTextSample();
 }
 
-void Session::ClickTextColor() {
-    Enter();
-    TextPanel& text = m_effects.Text();
+void EffectFrames::ClickTextColor() {
+    m_s.Enter();
+    TextPanel& text = m_s.m_effects.Text();
     const std::int32_t chosen =
-        m_host.ShowColor(static_cast<std::int32_t>(text.State().TextColor), true);
+        m_s.m_host.ShowColor(static_cast<std::int32_t>(text.State().TextColor), true);
     if (chosen < 0) return;
     text.SetTextColor(static_cast<Color>(chosen));
     text.ShowTextSample();
 }
 
-void Session::TextAngleChanged(int value) {
-    Enter();
-    m_effects.Text().SetAngle(value, m_formLoading);
+void EffectFrames::TextAngleChanged(int value) {
+    m_s.Enter();
+    m_s.m_effects.Text().SetAngle(value, m_s.m_formLoading);
 }
 
-void Session::AddTextProceed() {
-    Enter();
-    TextPanel& text = m_effects.Text();
+void EffectFrames::AddTextProceed() {
+    m_s.Enter();
+    TextPanel& text = m_s.m_effects.Text();
     const TextState& state = text.State();
     if (effects::IsBlankText(state.Text)) {
-        m_host.MsgBox(effects::kNoTextYet, MsgButtons::Ok, MsgIcon::None, kTitle);
+        m_s.m_host.MsgBox(effects::kNoTextYet, MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }
-    if (m_form.VisibleFrame != Frame::Text || !InArea()) return;
-    host::Hourglass hourglass(m_host);
+    if (m_s.m_form.VisibleFrame != Frame::Text || !m_s.InArea()) return;
+    host::Hourglass hourglass(m_s.m_host);
     // The platform draws the glyphs on the key color; everything after is ours.
     const Color key = effects::TextKeyColor(state.TextColor);
     const bool hollow = state.WriteStyle == static_cast<int>(effects::TextWriteStyle::Hollow);
     Surface drawn;
-    if (!m_host.DrawText(text.Font(), state.Text, hollow, state.TextColor, key, drawn)) {
+    if (!m_s.m_host.DrawText(text.Font(), state.Text, hollow, state.TextColor, key, drawn)) {
         const std::string name = text.FontName();
-        m_host.MsgBox(name.empty() ? kNoFontsText : effects::FontNotAvailableText(name),
+        m_s.m_host.MsgBox(name.empty() ? kNoFontsText : effects::FontNotAvailableText(name),
                       MsgButtons::Ok, MsgIcon::None, kTitle);
         return;
     }
-    const auto picture = effects::MakeTextRegion(drawn, Current().SizeCode, state.Angle, key);
+    const auto picture = effects::MakeTextRegion(drawn, m_s.Current().SizeCode, state.Angle, key);
     if (!picture) return;  // nothing of the text is left to place
-    HandOverTextRegion(*picture);
-    Current().Changed = true;
-    TakeUndoSnapshot();
+    m_s.HandOverTextRegion(*picture);
+    m_s.Current().Changed = true;
+    m_s.TakeUndoSnapshot();
 }
 
 }  // namespace vexlo::session

@@ -2,6 +2,7 @@
 // on the whole icon, Rotate At Any Selected Angle (its frame), and Shift Directions, which
 // slides the whole icon with its pad.
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "core/transform/flip_rotate.h"
 
 namespace vexlo::session {
@@ -13,7 +14,7 @@ void Session::ClickRotateSubmenu(int i) {
         &transform::FlippedHorizontal, &transform::FlippedVertical, &transform::RotatedLeft,
         &transform::RotatedRight};
     if (i == 4) {
-        ClickRotateSelectAngle();
+        Frames().ClickRotateSelectAngle();
         return;
     }
     if (i < 0 || i > 3) return;

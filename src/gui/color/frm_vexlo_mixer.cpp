@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "core/color/mix_gradient.h"
+#include "core/session/session_effect_frames.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
 
@@ -70,7 +71,7 @@ void FrmVexlo::BuildColorMixer(QGroupBox* group) {
         PicRGB[k] = MakeSwatch(group, QString("PicRGB%1").arg(i), QRect(8, top + 1, 18, 18));
         PicRGB[k]->setToolTip(kChannel[i]);
         connect(PicRGB[k], &SurfaceView::Released, this, [this, i](Qt::MouseButton, Qt::KeyboardModifiers, int, int) {
-            Run([i](session::Session& s) { s.ReleaseOnMixSwatch(i); });
+            Run([i](session::Session& s) { s.Frames().ReleaseOnMixSwatch(i); });
         });
         HsrRGB[k] = new QScrollBar(Qt::Horizontal, group);
         HsrRGB[k]->setObjectName(QString("HsrRGB%1").arg(i));
@@ -80,11 +81,11 @@ void FrmVexlo::BuildColorMixer(QGroupBox* group) {
         HsrRGB[k]->setGeometry(30, top, 110, 20);
         connect(HsrRGB[k], &QScrollBar::valueChanged, this, [this, i](int value) {
             if (m_syncing) return;
-            Run([i, value](session::Session& s) { s.ChangeMixBar(i, value); });
+            Run([i, value](session::Session& s) { s.Frames().ChangeMixBar(i, value); });
         });
         connect(HsrRGB[k], &QScrollBar::sliderMoved, this, [this, i](int value) {
             if (m_syncing) return;
-            Run([i, value](session::Session& s) { s.ScrollMixBar(i, value); });
+            Run([i, value](session::Session& s) { s.Frames().ScrollMixBar(i, value); });
         });
         lblRGB[k] = new QLabel(group);
         lblRGB[k]->setObjectName(QString("lblRGB%1").arg(i));
@@ -93,12 +94,13 @@ void FrmVexlo::BuildColorMixer(QGroupBox* group) {
     PicRGBMix = MakeSwatch(group, "PicRGBMix", QRect(8, 92, 42, 20));
     PicRGBMix->setToolTip(Text(color::kMixSwatchTip));
     connect(PicRGBMix, &SurfaceView::Released, this, [this](Qt::MouseButton, Qt::KeyboardModifiers, int, int) {
-        Run([](session::Session& s) { s.ReleaseOnMixSwatch(3); });
+        Run([](session::Session& s) { s.Frames().ReleaseOnMixSwatch(3); });
     });
     const std::string_view tips[3] = {color::kLightenTip, color::kDarkenTip, color::kCopySelectedTip};
     for (int i = 0; i < 3; ++i) {
         auto* b = MakeButton(group, QString("cmdAdjMix%1").arg(i), tips[i], QRect(54 + i * 24, 91, 22, 22));
-        connect(b, &QToolButton::clicked, this, [this, i] { Run([i](session::Session& s) { s.ClickAdjMix(i); }); });
+        connect(b, &QToolButton::clicked, this,
+                [this, i] { Run([i](session::Session& s) { s.Frames().ClickAdjMix(i); }); });
         cmdAdjMix[static_cast<std::size_t>(i)] = b;
     }
     cmdAdjMix[0]->setText("+");
@@ -106,10 +108,10 @@ void FrmVexlo::BuildColorMixer(QGroupBox* group) {
     cmdAdjMix[2]->setIcon(CopySelectedPicture());
     auto* load = MakeButton(group, "picLoadPalette", color::kLoadPaletteTip, QRect(130, 91, 22, 22));
     load->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
-    connect(load, &QToolButton::clicked, this, [this] { Run([](session::Session& s) { s.LoadPalette(); }); });
+    connect(load, &QToolButton::clicked, this, [this] { Run([](session::Session& s) { s.Frames().LoadPalette(); }); });
     auto* save = MakeButton(group, "picSavePalette", color::kSavePaletteTip, QRect(154, 91, 22, 22));
     save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
-    connect(save, &QToolButton::clicked, this, [this] { Run([](session::Session& s) { s.SavePalette(); }); });
+    connect(save, &QToolButton::clicked, this, [this] { Run([](session::Session& s) { s.Frames().SavePalette(); }); });
 
     auto* stripBox = new QFrame(group);
     stripBox->setFrameShape(QFrame::Box);
@@ -123,13 +125,13 @@ void FrmVexlo::BuildColorMixer(QGroupBox* group) {
     ShapeMix->setAttribute(Qt::WA_TransparentForMouseEvents);
     ShapeMix->hide();
     connect(picMixGradient, &SurfaceView::Moved, this, [this](Qt::MouseButtons, Qt::KeyboardModifiers, int x, int y) {
-        Run([x, y](session::Session& s) { s.PointerOverMixStrip(x, y); });
+        Run([x, y](session::Session& s) { s.Frames().PointerOverMixStrip(x, y); });
     });
     connect(picMixGradient, &SurfaceView::Pressed, this, [this](Qt::MouseButton, Qt::KeyboardModifiers, int x, int y) {
-        Run([x, y](session::Session& s) { s.PressOnMixStrip(x, y); });
+        Run([x, y](session::Session& s) { s.Frames().PressOnMixStrip(x, y); });
     });
     connect(picMixGradient, &SurfaceView::Released, this, [this](Qt::MouseButton, Qt::KeyboardModifiers, int x, int y) {
-        Run([x, y](session::Session& s) { s.ReleaseOnMixStrip(x, y); });
+        Run([x, y](session::Session& s) { s.Frames().ReleaseOnMixStrip(x, y); });
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "core/session/session_effect_frames.h"
 #include "gui/effects/effect_frame_controls.h"
 #include "gui/shell/frm_vexlo.h"
 
@@ -18,7 +19,7 @@ AdjustColorsFrame::AdjustColorsFrame(FrmVexlo& window, QFrame* frame)
     cboBrightNessAdj = MakeList(frame, entries, QRect(8, 112, 70, 22));
     cboBrightNessAdj->setObjectName("cboBrightNessAdj");
     connect(cboBrightNessAdj, &QComboBox::activated, this, [this](int index) {
-        m_window.Run([index](session::Session& s) { s.ClickBrightnessAdj(index); });
+        m_window.Run([index](session::Session& s) { s.Frames().ClickBrightnessAdj(index); });
     });
 
     auto* channels = new QLabel("Red(+/- %)      Green(+/- %)     Blue(+/-%)", frame);
@@ -27,7 +28,7 @@ AdjustColorsFrame::AdjustColorsFrame(FrmVexlo& window, QFrame* frame)
         QComboBox* list = MakeList(frame, entries, QRect(8 + i * 88, 166, 70, 22));
         list->setObjectName(QString("cboColorAdj%1").arg(i));
         connect(list, &QComboBox::activated, this, [this, i](int index) {
-            m_window.Run([i, index](session::Session& s) { s.ClickColorAdj(i, index); });
+            m_window.Run([i, index](session::Session& s) { s.Frames().ClickColorAdj(i, index); });
         });
         cboColorAdj[static_cast<std::size_t>(i)] = list;
     }
@@ -37,7 +38,7 @@ AdjustColorsFrame::AdjustColorsFrame(FrmVexlo& window, QFrame* frame)
         MakeFrameButton(frame, "Restore", "Restore to original", QRect(94, 262, 80, 26));
     for (int i = 0; i < 2; ++i)
         connect(cmdAdjustColorsProceed[static_cast<std::size_t>(i)], &QPushButton::clicked, this,
-                [this, i] { m_window.Run([i](session::Session& s) { s.AdjustColorsProceed(i); }); });
+                [this, i] { m_window.Run([i](session::Session& s) { s.Frames().AdjustColorsProceed(i); }); });
     cmdCancel = MakeFrameButton(frame, kCloseText, kCloseToolTip, QRect(180, 262, 80, 26));
     connect(cmdCancel, &QPushButton::clicked, this,
             [this] { m_window.Run([](session::Session& s) { s.CancelFrame(); }); });

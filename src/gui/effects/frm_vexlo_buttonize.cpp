@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "core/session/session_effect_frames.h"
 #include "gui/effects/effect_frame_controls.h"
 #include "gui/shell/frm_vexlo.h"
 
@@ -13,7 +14,7 @@ ButtonizeFrame::ButtonizeFrame(FrmVexlo& window, QFrame* frame) : QObject(frame)
     cboButtonizePattern = MakeList(frame, effects::kButtonizePatternEntries, QRect(70, 28, 60, 22));
     cboButtonizePattern->setObjectName("cboButtonizePattern");
     connect(cboButtonizePattern, &QComboBox::activated, this, [this](int index) {
-        m_window.Run([index](session::Session& s) { s.ClickButtonizePattern(index); });
+        m_window.Run([index](session::Session& s) { s.Frames().ClickButtonizePattern(index); });
     });
     for (int i = 0; i < 3; ++i) {
         const auto k = static_cast<std::size_t>(i);
@@ -21,7 +22,7 @@ ButtonizeFrame::ButtonizeFrame(FrmVexlo& window, QFrame* frame) : QObject(frame)
                                          QString("picButtonize%1").arg(i));
         picButtonize[k]->SetSurface(&window.session().Effects().Buttonize().Sample(i));
         connect(picButtonize[k], &SurfaceView::Clicked, this, [this, i] {
-            m_window.Run([i](session::Session& s) { s.ClickButtonizePattern(i); });
+            m_window.Run([i](session::Session& s) { s.Frames().ClickButtonizePattern(i); });
         });
         lblButtonize[k] = new QLabel(QString::number(i + 1), frame);
         lblButtonize[k]->setAlignment(Qt::AlignCenter);
@@ -29,7 +30,7 @@ ButtonizeFrame::ButtonizeFrame(FrmVexlo& window, QFrame* frame) : QObject(frame)
     }
     cmdButtonizeProceed = MakeFrameButton(frame, kProceedText, "", QRect(8, 262, 80, 26));
     connect(cmdButtonizeProceed, &QPushButton::clicked, this,
-            [this] { m_window.Run([](session::Session& s) { s.ButtonizeProceed(); }); });
+            [this] { m_window.Run([](session::Session& s) { s.Frames().ButtonizeProceed(); }); });
     cmdCancel = MakeFrameButton(frame, kCloseText, kCloseToolTip, QRect(94, 262, 80, 26));
     connect(cmdCancel, &QPushButton::clicked, this,
             [this] { m_window.Run([](session::Session& s) { s.CancelFrame(); }); });

@@ -7,6 +7,7 @@
 #include "core/effects/resize_confine.h"
 #include "core/effects/gradient.h"
 #include "core/effects/shades.h"
+#include "core/session/session_effect_frames.h"
 #include "gui/shell/frm_vexlo.h"
 
 namespace vexlo::gui {
@@ -28,13 +29,13 @@ void FrmVexlo::BuildConfineToMonoFrame(QFrame* frame) {
     cboConfineToMonoThreshold->setGeometry(8, 72, 72, 22);
     connect(cboConfineToMonoThreshold, &QComboBox::activated, this, [this](int index) {
         if (m_syncing) return;
-        Run([index](session::Session& s) { s.ClickMonoThreshold(index); });
+        Run([index](session::Session& s) { s.Frames().ClickMonoThreshold(index); });
     });
     auto* proceed = new QPushButton(Text(effects::kProceedCaption), frame);
     proceed->setObjectName("cmdConfineToMonoProceed");
     proceed->setGeometry(8, 262, 80, 26);
     connect(proceed, &QPushButton::clicked, this,
-            [this] { Run([](session::Session& s) { s.ConfineToMonoProceed(); }); });
+            [this] { Run([](session::Session& s) { s.Frames().ConfineToMonoProceed(); }); });
     auto* cancel = new QPushButton("Cancel", frame);
     cancel->setToolTip(Text(effects::kCloseCancelTip));
     cancel->setGeometry(180, 262, 80, 26);

@@ -7,6 +7,7 @@
 #include <QToolButton>
 
 #include "core/effects/gradient.h"
+#include "core/session/session_effect_frames.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
 
@@ -43,7 +44,7 @@ void FrmVexlo::BuildGradientFrame(QFrame* frame) {
         OptGradType[i]->setObjectName(QString("OptGradType%1").arg(k));
         OptGradType[i]->setGeometry(8 + k * 90, 28, 86, 20);
         connect(OptGradType[i], &QRadioButton::clicked, this,
-                [this, k] { Run([k](session::Session& s) { s.ClickGradientType(k); }); });
+                [this, k] { Run([k](session::Session& s) { s.Frames().ClickGradientType(k); }); });
         // lblGradient(k): the sunken box around the picture, which shows it at its own size.
         auto* box = new QFrame(frame);
         box->setFrameShape(QFrame::Panel);
@@ -58,7 +59,7 @@ void FrmVexlo::BuildGradientFrame(QFrame* frame) {
             const auto b = button == Qt::LeftButton    ? session::Session::Button::Left
                            : button == Qt::RightButton ? session::Session::Button::Right
                                                        : session::Session::Button::Middle;
-            Run([k, b, x, y](session::Session& s) { s.PressOnGradient(k, b, x, y); });
+            Run([k, b, x, y](session::Session& s) { s.Frames().PressOnGradient(k, b, x, y); });
         });
         PicGradient[i] = view;
     }
@@ -68,7 +69,7 @@ void FrmVexlo::BuildGradientFrame(QFrame* frame) {
     cboGradientAngle->setGeometry(14, 110, 64, 22);
     connect(cboGradientAngle, &QComboBox::activated, this, [this](int index) {
         if (m_syncing) return;
-        Run([index](session::Session& s) { s.ClickGradientAngle(index); });
+        Run([index](session::Session& s) { s.Frames().ClickGradientAngle(index); });
     });
     auto* centre = new QLabel(Caption(effects::kGradientCenterCaption), frame);
     centre->setWordWrap(true);
@@ -83,7 +84,7 @@ void FrmVexlo::BuildGradientFrame(QFrame* frame) {
         button->setToolTip(Text(effects::kGradientColorTips[static_cast<std::size_t>(i)]));
         button->setGeometry(14 + i * 56, 172, 48, 26);
         connect(button, &QToolButton::clicked, this,
-                [this, i] { Run([i](session::Session& s) { s.ClickGradientColor(i); }); });
+                [this, i] { Run([i](session::Session& s) { s.Frames().ClickGradientColor(i); }); });
         cmdGradientColor[static_cast<std::size_t>(i)] = button;
     }
     lblNoUnpaintedArea = new QLabel(Caption(effects::kNoUnpaintedArea), frame);
@@ -94,7 +95,7 @@ void FrmVexlo::BuildGradientFrame(QFrame* frame) {
     cmdGradientProceed->setObjectName("cmdGradientProceed");
     cmdGradientProceed->setGeometry(8, 262, 80, 26);
     connect(cmdGradientProceed, &QPushButton::clicked, this,
-            [this] { Run([](session::Session& s) { s.GradientProceed(); }); });
+            [this] { Run([](session::Session& s) { s.Frames().GradientProceed(); }); });
     auto* cancel = new QPushButton("Cancel", frame);
     cancel->setToolTip(Text(effects::kCloseCancelTip));
     cancel->setGeometry(180, 262, 80, 26);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "core/session/session_effect_frames.h"
 #include "gui/shell/frm_vexlo.h"
 #include "gui/platform/surface_view.h"
 
@@ -44,7 +45,7 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
     small.setPointSizeF(small.pointSizeF() * 0.85);
     ckbUseSelectedColor->setFont(small);  // the whole caption fits the frame's width
     connect(ckbUseSelectedColor, &QCheckBox::clicked, this, [this](bool checked) {
-        Run([checked](session::Session& s) { s.ClickUseSelectedColor(checked); });
+        Run([checked](session::Session& s) { s.Frames().ClickUseSelectedColor(checked); });
     });
 
     static const char* const kChannel[3] = {"R", "G", "B"};
@@ -55,7 +56,7 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
         for (const std::string& entry : effects::CastListEntries()) list->addItem(QString::fromStdString(entry));
         list->setGeometry(24 + i * 84, 150, 62, 22);
         connect(list, &QComboBox::activated, this, [this, i](int index) {
-            Run([i, index](session::Session& s) { s.CastComboClicked(i, index); });
+            Run([i, index](session::Session& s) { s.Frames().CastComboClicked(i, index); });
         });
         cboCast[static_cast<std::size_t>(i)] = list;
         castWidgets.push_back(label);
@@ -68,7 +69,7 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
     hsrCast->setGeometry(58, 178, 150, 18);
     connect(hsrCast, &QScrollBar::valueChanged, this, [this](int value) {
         if (m_syncing) return;
-        Run([value](session::Session& s) { s.CastSliderChanged(value); });
+        Run([value](session::Session& s) { s.Frames().CastSliderChanged(value); });
     });
     lblCast[1] = new QLabel("Lighter", frame);
     lblCast[1]->setGeometry(212, 178, 50, 18);
@@ -79,7 +80,7 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
                                           frame);
     cmdShadesProceed[0]->setGeometry(8, 262, 80, 26);
     connect(cmdShadesProceed[0], &QPushButton::clicked, this,
-            [this] { Run([](session::Session& s) { s.ShadesProceed(); }); });
+            [this] { Run([](session::Session& s) { s.Frames().ShadesProceed(); }); });
     cmdShadesProceed[1] = new QPushButton(QString::fromUtf8(effects::kRestoreCaption.data(),
                                                             static_cast<int>(effects::kRestoreCaption.size())),
                                           frame);
@@ -87,7 +88,7 @@ void FrmVexlo::BuildShadesFrame(QFrame* frame) {
                                                       static_cast<int>(effects::kRestoreToolTip.size())));
     cmdShadesProceed[1]->setGeometry(94, 262, 80, 26);
     connect(cmdShadesProceed[1], &QPushButton::clicked, this,
-            [this] { Run([](session::Session& s) { s.ShadesRestore(); }); });
+            [this] { Run([](session::Session& s) { s.Frames().ShadesRestore(); }); });
     castWidgets.push_back(cmdShadesProceed[1]);
     auto* cancel = new QPushButton("Cancel", frame);
     cancel->setGeometry(180, 262, 80, 26);

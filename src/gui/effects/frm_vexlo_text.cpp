@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include "core/session/session_effect_frames.h"
 #include "gui/effects/effect_frame_controls.h"
 #include "gui/platform/text_drawing.h"
 #include "gui/shell/frm_vexlo.h"
@@ -25,15 +26,15 @@ TextFrame::TextFrame(FrmVexlo& window, QFrame* frame) : QObject(frame), m_window
     txbWriteText->setGeometry(8, 24, 264, 22);
     connect(txbWriteText, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (m_syncing) return;
-        m_window.Run([t = text.toStdString()](Session& s) { s.SetWriteText(t); });
+        m_window.Run([t = text.toStdString()](Session& s) { s.Frames().SetWriteText(t); });
     });
 
     cboTextWriteStyle = MakeList(frame, effects::kTextWriteStyleEntries, QRect(8, 52, 84, 22));
     connect(cboTextWriteStyle, &QComboBox::activated, this,
-            [this](int i) { m_window.Run([i](Session& s) { s.ClickTextWriteStyle(i); }); });
+            [this](int i) { m_window.Run([i](Session& s) { s.Frames().ClickTextWriteStyle(i); }); });
     cboFontSize = MakeList(frame, effects::FontSizeEntries(), QRect(96, 52, 48, 22));
     connect(cboFontSize, &QComboBox::activated, this,
-            [this](int i) { m_window.Run([i](Session& s) { s.ClickFontSize(i); }); });
+            [this](int i) { m_window.Run([i](Session& s) { s.Frames().ClickFontSize(i); }); });
     static const char* const kStyle[2] = {"Bold", "Italic"};
     for (int i = 0; i < 2; ++i) {
         auto* b = new QToolButton(frame);
@@ -46,18 +47,18 @@ TextFrame::TextFrame(FrmVexlo& window, QFrame* frame) : QObject(frame), m_window
         b->setCheckable(true);
         b->setGeometry(148 + i * 26, 52, 24, 22);
         connect(b, &QToolButton::clicked, this,
-                [this, i] { m_window.Run([i](Session& s) { s.ClickFontStyle(i); }); });
+                [this, i] { m_window.Run([i](Session& s) { s.Frames().ClickFontStyle(i); }); });
         imgFontStyle[static_cast<std::size_t>(i)] = b;
     }
     cmdTextColor = MakeFrameButton(frame, "Color", "Color dialog", QRect(202, 51, 70, 24));
     connect(cmdTextColor, &QPushButton::clicked, this,
-            [this] { m_window.Run([](Session& s) { s.ClickTextColor(); }); });
+            [this] { m_window.Run([](Session& s) { s.Frames().ClickTextColor(); }); });
 
     cboFontName = new QComboBox(frame);
     cboFontName->setObjectName("cboFontName");
     cboFontName->setGeometry(8, 80, 264, 22);
     connect(cboFontName, &QComboBox::activated, this,
-            [this](int i) { m_window.Run([i](Session& s) { s.ClickFontName(i); }); });
+            [this](int i) { m_window.Run([i](Session& s) { s.Frames().ClickFontName(i); }); });
 
     lblTextSample = new QLabel("AaBbYyZz 123", frame);
     lblTextSample->setObjectName("lblTextSample");
@@ -74,7 +75,7 @@ TextFrame::TextFrame(FrmVexlo& window, QFrame* frame) : QObject(frame), m_window
     HsbTextWriteSampleAngle->setGeometry(8, 170, 170, 18);
     connect(HsbTextWriteSampleAngle, &QScrollBar::valueChanged, this, [this](int value) {
         if (m_syncing) return;
-        m_window.Run([value](Session& s) { s.TextAngleChanged(value); });
+        m_window.Run([value](Session& s) { s.Frames().TextAngleChanged(value); });
     });
     lblTextAngle = new QLabel(frame);
     lblTextAngle->setGeometry(182, 170, 90, 18);
@@ -84,7 +85,7 @@ TextFrame::TextFrame(FrmVexlo& window, QFrame* frame) : QObject(frame), m_window
 
     cmdAddTextProceed = MakeFrameButton(frame, kProceedText, "", QRect(8, 262, 80, 26));
     connect(cmdAddTextProceed, &QPushButton::clicked, this,
-            [this] { m_window.Run([](Session& s) { s.AddTextProceed(); }); });
+            [this] { m_window.Run([](Session& s) { s.Frames().AddTextProceed(); }); });
     cmdCancel = MakeFrameButton(frame, kCloseText, kCloseToolTip, QRect(94, 262, 80, 26));
     connect(cmdCancel, &QPushButton::clicked, this,
             [this] { m_window.Run([](Session& s) { s.CancelFrame(); }); });

@@ -5,6 +5,7 @@
 
 #include "core/effects/rotate_angle.h"
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -38,11 +39,11 @@ TEST_F(EffectFramesTest, ButtonizeDrawsTheChosenPatternWithOneUndoEntryPerRun) {
     s.RunMenuItem("mnuEffectsSub(0)");
     EXPECT_EQ(s.Form().VisibleFrame, Frame::Buttonize);
     EXPECT_EQ(s.Effects().Buttonize().PatternIndex(), 0);
-    s.ClickButtonizePattern(2);
-    s.ClickButtonizePattern(7);  // no such entry
+    s.Frames().ClickButtonizePattern(2);
+    s.Frames().ClickButtonizePattern(7);  // no such entry
     EXPECT_EQ(s.Effects().Buttonize().PatternIndex(), 2);
     const int undo = s.UndoCount();
-    s.ButtonizeProceed();
+    s.Frames().ButtonizeProceed();
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
@@ -53,10 +54,10 @@ TEST_F(EffectFramesTest, ButtonizeDrawsTheChosenPatternWithOneUndoEntryPerRun) {
 
     s.RunMenuItem("mnuEffectsSub(0)");  // the pattern lasts for the run
     EXPECT_EQ(s.Effects().Buttonize().PatternIndex(), 2);
-    s.ButtonizeProceed();
+    s.Frames().ButtonizeProceed();
     EXPECT_EQ(s.UndoCount(), undo + 2);
     EXPECT_TRUE(SamePixels(s.Icon().Image(), once));
-    s.ButtonizeProceed();  // the frame is gone: nothing more
+    s.Frames().ButtonizeProceed();  // the frame is gone: nothing more
     EXPECT_EQ(s.UndoCount(), undo + 2);
 }
 
@@ -65,20 +66,20 @@ TEST_F(EffectFramesTest, AdjustStepsActOnThePreviewOnlyUntilProceed) {
     ASSERT_EQ(s.Form().VisibleFrame, Frame::AdjustPaintedColors);
     const Surface& preview = s.Effects().AdjustColors().Preview();
     EXPECT_TRUE(SamePixels(preview, s.Icon().Composed()));
-    s.ClickBrightnessAdj(effects::kAdjustZeroIndex);  // "0": nothing
+    s.Frames().ClickBrightnessAdj(effects::kAdjustZeroIndex);  // "0": nothing
     EXPECT_TRUE(SamePixels(preview, s.Icon().Composed()));
-    s.ClickBrightnessAdj(4);   // -50: 255 -> 127.5 -> 128
-    s.ClickColorAdj(1, 18);    // green +90: 0 stays 0
-    s.ClickColorAdj(0, 18);    // red +90: 128 -> 243.2 -> 243
+    s.Frames().ClickBrightnessAdj(4);   // -50: 255 -> 127.5 -> 128
+    s.Frames().ClickColorAdj(1, 18);    // green +90: 0 stays 0
+    s.Frames().ClickColorAdj(0, 18);    // red +90: 128 -> 243.2 -> 243
     EXPECT_EQ(preview.GetPixel(0, 0), surface::Rgb(243, 0, 0));
     EXPECT_EQ(preview.GetPixel(5, 5), 0xC0C0C0u);  // transparent: left alone
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), kRed);
 
-    s.AdjustColorsProceed(1);  // Restore
+    s.Frames().AdjustColorsProceed(1);  // Restore
     EXPECT_TRUE(SamePixels(preview, s.Icon().Composed()));
-    s.ClickBrightnessAdj(14);  // +50: 255 held
+    s.Frames().ClickBrightnessAdj(14);  // +50: 255 held
     const int undo = s.UndoCount();
-    s.AdjustColorsProceed(0);
+    s.Frames().AdjustColorsProceed(0);
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), kRed);
@@ -97,16 +98,16 @@ TEST_F(EffectFramesTest, RotateFrameFollowsItsControlsAndProceeds) {
     EXPECT_EQ(panel.Angle(), 0);
     EXPECT_EQ(panel.ListIndex(), 360);
     EXPECT_EQ(panel.Sample().GetPixel(0, 0), kRed);  // the composed icon at its top left
-    s.RotateAngleSliderChanged(45);
+    s.Frames().RotateAngleSliderChanged(45);
     EXPECT_EQ(panel.ListIndex(), 405);
     const Surface sharp = panel.Sample();
-    s.ClickRotateAntiAlias(true);
+    s.Frames().ClickRotateAntiAlias(true);
     EXPECT_FALSE(SamePixels(panel.Sample(), sharp));  // only the sample smooths
-    s.ClickRotateAngleList(360 + 45);
+    s.Frames().ClickRotateAngleList(360 + 45);
     Surface image = s.Icon().Image(), mask = s.Icon().Mask();
     effects::ProceedRotate(45, image, mask);  // never smoothed, whatever the box shows
     const int undo = s.UndoCount();
-    s.RotateSelectAngleProceed();
+    s.Frames().RotateSelectAngleProceed();
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
@@ -119,9 +120,9 @@ TEST_F(EffectFramesTest, RotateFrameFollowsItsControlsAndProceeds) {
 TEST_F(EffectFramesTest, RotateByAWholeTurnOnlyClosesTheFrame) {
     for (int listIndex : {0, 360, 720}) {
         s.RunMenuItem("mnuRotateSubmenu(4)");
-        s.ClickRotateAngleList(listIndex);
+        s.Frames().ClickRotateAngleList(listIndex);
         const int undo = s.UndoCount();
-        s.RotateSelectAngleProceed();
+        s.Frames().RotateSelectAngleProceed();
         EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
         EXPECT_EQ(s.UndoCount(), undo);
         EXPECT_FALSE(s.Current().Changed);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -30,7 +31,7 @@ TEST_F(ShadesFlowTest, GrayscaleProceedsIntoThePlanesWithOneUndoEntry) {
     ASSERT_TRUE(s.Shades().Preview.has_value());
     EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), 0x0000FFu);  // the planes wait for Proceed
     const int undo = s.UndoCount();
-    s.ShadesProceed();
+    s.Frames().ShadesProceed();
     const int gray = 76;  // round(0.3 x 255)
     EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), surface::Rgb(gray, gray, gray));
     EXPECT_EQ(s.UndoCount(), undo + 1);
@@ -43,9 +44,9 @@ TEST_F(ShadesFlowTest, GrayscaleProceedsIntoThePlanesWithOneUndoEntry) {
 TEST_F(ShadesFlowTest, CastControlsAndRestore) {
     s.RunMenuItem("mnuEffectsSub(7)");
     EXPECT_TRUE(s.Shades().CastControlsVisible);
-    s.CastComboClicked(0, 255);
+    s.Frames().CastComboClicked(0, 255);
     EXPECT_EQ(s.Shades().Cast.Values[0], 255);
-    s.ShadesRestore();
+    s.Frames().ShadesRestore();
     EXPECT_EQ(s.Shades().Cast.Values, (effects::CastValues{127, 127, 127}));
     EXPECT_EQ(s.Shades().Cast.Slider, 127);
 }
@@ -54,7 +55,7 @@ TEST_F(ShadesFlowTest, AnotherFrameDiscardsThePreviewAndNeedsAnIcon) {
     s.RunMenuItem("mnuEffectsSub(1)");
     s.CancelFrame();
     EXPECT_FALSE(s.Shades().Preview.has_value());
-    s.ShadesProceed();  // nothing to proceed with
+    s.Frames().ShadesProceed();  // nothing to proceed with
     EXPECT_EQ(s.Icon().Image().GetPixel(3, 3), 0x0000FFu);
     s.ClickPanel(4);
     host.Answer(host::MsgAnswer::Ok);

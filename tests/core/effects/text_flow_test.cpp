@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -76,50 +77,50 @@ TEST_F(TextFlowTest, FrameOpensWithTheScreenFontsAndItsStartingValues) {
     EXPECT_EQ(Text().TextColor, kRed);
     EXPECT_EQ(Text().Sample.Font.Name, "Block");
     EXPECT_EQ(Text().Sample.Font.Size, 8);
-    s.TextAngleChanged(30);
+    s.Frames().TextAngleChanged(30);
     s.RunMenuItem("mnuEffectsText");  // the angle goes back to 0 each time
     EXPECT_EQ(Text().Angle, 0);
 }
 
 TEST_F(TextFlowTest, BlankTextIsRefused) {
-    s.SetWriteText("   ");
+    s.Frames().SetWriteText("   ");
     host.Answer(host::MsgAnswer::Ok);
-    s.AddTextProceed();
+    s.Frames().AddTextProceed();
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, "No text entered yet");
     EXPECT_TRUE(host.drawn.empty());
 }
 
 TEST_F(TextFlowTest, AFontTheSystemLacksIsNamedAndTheSampleStays) {
-    s.ClickFontName(1);
+    s.Frames().ClickFontName(1);
     EXPECT_EQ(Text().Sample.Font.Name, "Block Wide");
     host.fonts = {"Block"};  // the font went away meanwhile
     host.Answer(host::MsgAnswer::Ok);
-    s.ClickFontName(0);
-    s.ClickFontName(1);
+    s.Frames().ClickFontName(0);
+    s.Frames().ClickFontName(1);
     ASSERT_EQ(host.shown.size(), 1u);
     EXPECT_EQ(host.shown[0].text, "Block Wide not available in system.");
     EXPECT_EQ(Text().Sample.Font.Name, "Block");
 }
 
 TEST_F(TextFlowTest, SettingsReachTheSampleAndTheDrawing) {
-    s.ClickFontSize(5);
-    s.ClickFontStyle(0);
-    s.ClickFontStyle(1);
-    s.ClickFontStyle(1);
+    s.Frames().ClickFontSize(5);
+    s.Frames().ClickFontStyle(0);
+    s.Frames().ClickFontStyle(1);
+    s.Frames().ClickFontStyle(1);
     host.AnswerColor(0xFFFFFF);
-    s.ClickTextColor();
+    s.Frames().ClickTextColor();
     EXPECT_EQ(host.colorRequests.back().color, static_cast<std::int32_t>(kRed));
     EXPECT_EQ(Text().Sample.Colors.Back, effects::kTextKeyBlue);  // white shows on blue
     EXPECT_EQ(Text().Sample.Font.Size, 12);
     EXPECT_TRUE(Text().Sample.Font.Bold);
     EXPECT_FALSE(Text().Sample.Font.Italic);
     host.AnswerColor(-1);  // cancelled: nothing changes
-    s.ClickTextColor();
+    s.Frames().ClickTextColor();
     EXPECT_EQ(Text().TextColor, 0xFFFFFFu);
 
-    s.SetWriteText("I");
-    s.AddTextProceed();
+    s.Frames().SetWriteText("I");
+    s.Frames().AddTextProceed();
     ASSERT_EQ(host.drawn.size(), 1u);
     EXPECT_EQ(host.drawn[0].Size, 12);
     // White text survives its own key.
@@ -129,9 +130,9 @@ TEST_F(TextFlowTest, SettingsReachTheSampleAndTheDrawing) {
 }
 
 TEST_F(TextFlowTest, ProceedFloatsTheTextAtTheTopLeftAndTakesASnapshot) {
-    s.SetWriteText("AB");
+    s.Frames().SetWriteText("AB");
     const int undo = s.UndoCount();
-    s.AddTextProceed();
+    s.Frames().AddTextProceed();
     EXPECT_EQ(s.Form().VisibleFrame, Frame::Text);  // the frame stays up
     EXPECT_EQ(s.Form().SelectedTool, tools::Tool::Region);
     EXPECT_TRUE(s.View().Region().Exists);
@@ -146,8 +147,8 @@ TEST_F(TextFlowTest, ProceedFloatsTheTextAtTheTopLeftAndTakesASnapshot) {
 }
 
 TEST_F(TextFlowTest, ADragMovesTheTextAndAPressOutsideDropsIt) {
-    s.SetWriteText("A");
-    s.AddTextProceed();
+    s.Frames().SetWriteText("A");
+    s.Frames().AddTextProceed();
     const int undo = s.UndoCount();
     s.PointerPressed(session::Session::Button::Left, At(1), At(1));
     s.PointerMoved(At(11), At(21), false);
@@ -169,8 +170,8 @@ TEST_F(TextFlowTest, ADragMovesTheTextAndAPressOutsideDropsIt) {
 }
 
 TEST_F(TextFlowTest, AnotherToolDropsTheTextWhereItStands) {
-    s.SetWriteText("A");
-    s.AddTextProceed();
+    s.Frames().SetWriteText("A");
+    s.Frames().AddTextProceed();
     s.ClickTool(tools::Tool::Paint);
     s.PointerPressed(session::Session::Button::Left, At(1), At(1));
     EXPECT_FALSE(Floats());
@@ -185,9 +186,9 @@ TEST_F(TextFlowTest, WithoutScreenFontsProceedSaysSo) {
     t.RunFirstActivation("", nullptr);
     t.FileNew(0);
     t.RunMenuItem("mnuEffectsText");
-    t.SetWriteText("A");
+    t.Frames().SetWriteText("A");
     bare.Answer(host::MsgAnswer::Ok);
-    t.AddTextProceed();
+    t.Frames().AddTextProceed();
     ASSERT_EQ(bare.shown.size(), 1u);
     EXPECT_EQ(bare.shown[0].text, "No screen font available in system.");
     EXPECT_FALSE(t.View().Region().Exists);

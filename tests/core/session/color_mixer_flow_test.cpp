@@ -6,6 +6,7 @@
 #include "core/color/mix_gradient.h"
 #include "core/files/bmp_write.h"
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 #include "support/test_bytes.h"
 #include "support/test_folder.h"
@@ -35,29 +36,29 @@ TEST_F(ColorMixerFlowTest, BarsSwatchesAndStrip) {
     EXPECT_EQ(m().BarText(1), "255");
 
     // A drag moves the swatches but not the strip; its end redraws it.
-    s.ScrollMixBar(1, 100);
+    s.Frames().ScrollMixBar(1, 100);
     EXPECT_EQ(m().SwatchColor(1), Rgb(0, 100, 0));
     EXPECT_EQ(m().SwatchColor(3), Rgb(255, 100, 255));
     EXPECT_EQ(m().BarText(1), "100");
     EXPECT_EQ(m().Strip().GetPixel(0, 50), Rgb(0, 255, 10));
     EXPECT_FALSE(m().AdjEnabled().Lighten);
     const int events = host.doEventsCount;
-    s.ChangeMixBar(1, 100);
+    s.Frames().ChangeMixBar(1, 100);
     EXPECT_EQ(m().Strip().GetPixel(0, 50), Rgb(0, 100, 10));
     EXPECT_TRUE(m().AdjEnabled().Lighten);
     EXPECT_GT(host.doEventsCount, events);
 
-    s.ClickAdjMix(1);
+    s.Frames().ClickAdjMix(1);
     EXPECT_EQ(m().Bars(), (color::MixBars{238, 83, 238}));
     s.SetSelectedColor(0);
-    s.ClickAdjMix(2);
+    s.Frames().ClickAdjMix(2);
     EXPECT_EQ(m().Bars(), (color::MixBars{0, 0, 0}));
     EXPECT_FALSE(m().AdjEnabled().Darken);
     EXPECT_EQ(m().Strip().GetPixel(20, 99), 0u);
 }
 
 TEST_F(ColorMixerFlowTest, StripAndSwatchesChooseTheColor) {
-    s.PointerOverMixStrip(5, 30);
+    s.Frames().PointerOverMixStrip(5, 30);
     const Color band31 = m().Strip().GetPixel(0, 30);
     EXPECT_EQ(s.Form().Status.Mix, color::MixLabelText(band31));
     ASSERT_TRUE(m().Marker().has_value());
@@ -65,26 +66,26 @@ TEST_F(ColorMixerFlowTest, StripAndSwatchesChooseTheColor) {
     EXPECT_EQ(m().Marker()->Width, session::kMixStripWidth - 1);
     EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);  // moving selects nothing
 
-    s.PointerOverMixStrip(5, 100);  // off the strip: nothing follows
+    s.Frames().PointerOverMixStrip(5, 100);  // off the strip: nothing follows
     EXPECT_EQ(m().Marker()->Top, 28);
-    s.ReleaseOnMixStrip(-1, 30);
+    s.Frames().ReleaseOnMixStrip(-1, 30);
     EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);
-    s.PressOnMixStrip(5, 30);
+    s.Frames().PressOnMixStrip(5, 30);
     EXPECT_EQ(s.SelectedColor(), band31);
-    s.ReleaseOnMixStrip(0, 99);
+    s.Frames().ReleaseOnMixStrip(0, 99);
     EXPECT_EQ(s.SelectedColor(), m().Strip().GetPixel(0, 99));
-    s.ReleaseOnMixSwatch(2);
+    s.Frames().ReleaseOnMixSwatch(2);
     EXPECT_EQ(s.SelectedColor(), Rgb(0, 0, 255));
-    s.ReleaseOnMixSwatch(3);
+    s.Frames().ReleaseOnMixSwatch(3);
     EXPECT_EQ(s.SelectedColor(), 0xFFFFFFu);
-    s.ChangeMixBar(0, 7);
+    s.Frames().ChangeMixBar(0, 7);
     EXPECT_EQ(s.Form().Status.Mix, "");
 }
 
 TEST_F(ColorMixerFlowTest, PaletteSavedAndLoadedBack) {
     TestFolder folder("vexlo_mixer");
     const std::string path = folder.Path("mine.pal");
-    s.ChangeMixBar(0, 120);
+    s.Frames().ChangeMixBar(0, 120);
     const Surface saved = m().Strip();
     host.AnswerSave(path);
     s.RunMenuItem("mnuPaletteSub(4)");
@@ -94,7 +95,7 @@ TEST_F(ColorMixerFlowTest, PaletteSavedAndLoadedBack) {
     EXPECT_EQ(host.saveRequests[0].InitDir, s.Dirs().ProgramDir);
     EXPECT_EQ(ReadBytes(path), files::BuildBmpBytes(saved));
 
-    s.ChangeMixBar(0, 255);
+    s.Frames().ChangeMixBar(0, 255);
     ASSERT_FALSE(SamePixels(m().Strip(), saved));
     host.AnswerOpen(path);
     s.RunMenuItem("mnuPaletteSub(3)");
@@ -103,7 +104,7 @@ TEST_F(ColorMixerFlowTest, PaletteSavedAndLoadedBack) {
     EXPECT_EQ(m().Bars()[0], 255);  // the bars stay
 
     host.AnswerOpen("");  // cancelled
-    s.LoadPalette();
+    s.Frames().LoadPalette();
     EXPECT_TRUE(SamePixels(m().Strip(), saved));
 }
 
@@ -128,7 +129,7 @@ TEST_F(ColorMixerFlowTest, PalettesOfOtherSizes) {
         ASSERT_TRUE(files::WriteBmpFile(picture, path));
         host.AnswerOpen(path);
         if (c.Message) host.Answer(host::MsgAnswer::Ok);
-        s.LoadPalette();
+        s.Frames().LoadPalette();
         if (c.Message) {
             EXPECT_EQ(host.shown.back().text, c.Message);
             EXPECT_TRUE(SamePixels(m().Strip(), before));
@@ -157,18 +158,18 @@ TEST_F(ColorMixerFlowTest, UnreadablePalettesSayWhy) {
     for (const auto& c : cases) {
         host.AnswerOpen(folder.Path(c.Name));
         host.Answer(host::MsgAnswer::Ok);
-        s.LoadPalette();
+        s.Frames().LoadPalette();
         EXPECT_EQ(host.shown.back().text, c.Text);
         EXPECT_TRUE(SamePixels(m().Strip(), before));
     }
     host.AnswerOpen(folder.Path("png.pal"));
-    s.LoadPalette();
+    s.Frames().LoadPalette();
     EXPECT_EQ(m().Strip().GetPixel(0, 0), 0x00FF00u);
 
     // A save that can't be written: the common error box, and nothing else.
     host.AnswerSave(folder.Path("no/such/folder.pal"));
     host.Answer(host::MsgAnswer::Ok);
-    s.SavePalette();
+    s.Frames().SavePalette();
     EXPECT_EQ(host.shown.back().text.rfind("picSavePalette_Click\r\n2     ", 0), 0u) << host.shown.back().text;
 }
 

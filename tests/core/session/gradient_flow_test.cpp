@@ -7,6 +7,7 @@
 
 #include "core/effects/gradient.h"
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -69,28 +70,28 @@ TEST_F(GradientFlowTest, OpeningDrawsTheThreePicturesAtTheIconsSize) {
 TEST_F(GradientFlowTest, ControlsRedrawAndAreKeptToTheNextOpening) {
     NewIcon(0);
     s.RunMenuItem("mnuEffectsGradientUnpaintedArea");
-    s.ClickGradientAngle(90);
+    s.Frames().ClickGradientAngle(90);
     host.AnswerColor(0x0000FF);
-    s.ClickGradientColor(1);
+    s.Frames().ClickGradientColor(1);
     ASSERT_EQ(host.colorRequests.size(), 1u);
     EXPECT_EQ(host.colorRequests[0].color, 0xFFFFFF);  // starts from the button's color
     EXPECT_TRUE(host.colorRequests[0].fullOpen);
     host.AnswerColor(-1);
-    s.ClickGradientColor(0);  // cancelled: the color stays
+    s.Frames().ClickGradientColor(0);  // cancelled: the color stays
     const Color c1 = effects::kGradientFirstColor, c2 = 0x0000FF;
     EXPECT_EQ(s.Gradient().ButtonColor(1), c2);
     EXPECT_TRUE(SamePixels(s.Gradient().Picture(0), Drawn(32, [&](Surface& p) { effects::DrawLinearGradient(p, 90, c1, c2); })));
     EXPECT_TRUE(SamePixels(s.Gradient().Picture(1), Drawn(32, [&](Surface& p) { effects::DrawSquareGradient(p, c1, c2); })));
 
     // A left press on the spherical picture moves its centre; other pictures and buttons don't.
-    s.PressOnGradient(2, session::Session::Button::Left, 0, 0);
+    s.Frames().PressOnGradient(2, session::Session::Button::Left, 0, 0);
     const Surface corner = Drawn(32, [&](Surface& p) { effects::DrawSphericalGradient(p, 0, 0, c1, c2); });
     EXPECT_TRUE(SamePixels(s.Gradient().Picture(2), corner));
-    s.PressOnGradient(2, session::Session::Button::Right, 16, 16);
-    s.PressOnGradient(1, session::Session::Button::Left, 16, 16);
+    s.Frames().PressOnGradient(2, session::Session::Button::Right, 16, 16);
+    s.Frames().PressOnGradient(1, session::Session::Button::Left, 16, 16);
     EXPECT_TRUE(SamePixels(s.Gradient().Picture(2), corner));
 
-    s.ClickGradientType(1);
+    s.Frames().ClickGradientType(1);
     s.CancelFrame();
     s.RunMenuItem("mnuEffectsGradientUnpaintedArea");
     EXPECT_EQ(s.Gradient().AngleIndex(), 90);
@@ -104,10 +105,10 @@ TEST_F(GradientFlowTest, ControlsRedrawAndAreKeptToTheNextOpening) {
 TEST_F(GradientFlowTest, ProceedFillsUnpaintedCellsWithOneUndoEntry) {
     NewIcon(0);
     s.RunMenuItem("mnuEffectsGradientUnpaintedArea");
-    s.ClickGradientType(1);
+    s.Frames().ClickGradientType(1);
     const Surface square = s.Gradient().Picture(1);
     const int undo = s.UndoCount();
-    s.GradientProceed();
+    s.Frames().GradientProceed();
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     EXPECT_TRUE(s.Current().Changed);
@@ -129,7 +130,7 @@ TEST_F(GradientFlowTest, AnIconWithoutBlankCellsCannotProceed) {
     EXPECT_FALSE(s.Gradient().ProceedEnabled());
     EXPECT_TRUE(s.Gradient().NoUnpaintedAreaVisible());
     const int undo = s.UndoCount();
-    s.GradientProceed();
+    s.Frames().GradientProceed();
     EXPECT_EQ(s.UndoCount(), undo);
     EXPECT_EQ(s.Form().VisibleFrame, Frame::Gradient);
     EXPECT_EQ(s.Icon().Image().GetPixel(0, 0), 0u);

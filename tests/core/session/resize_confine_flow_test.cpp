@@ -5,6 +5,7 @@
 #include "core/color/color_charts.h"
 #include "core/effects/resize_confine.h"
 #include "core/session/session.h"
+#include "core/session/session_effect_frames.h"
 #include "support/scripted_host.h"
 
 namespace vexlo::test {
@@ -145,7 +146,7 @@ TEST_F(ResizeConfineFlowTest, ConfineToMonoByThreshold) {
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ConfineToMono);
     EXPECT_EQ(s.ConfineMono().Threshold(), 128);
     const int undo = s.UndoCount();
-    s.ConfineToMonoProceed();
+    s.Frames().ConfineToMonoProceed();
     EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
     EXPECT_EQ(s.UndoCount(), undo + 1);
     const Color image[4] = {0, 0, 0xFFFFFF, 0}, mask[4] = {0, 0xFFFFFF, 0, 0};
@@ -158,9 +159,9 @@ TEST_F(ResizeConfineFlowTest, ConfineToMonoByThreshold) {
     s.RunMenuItem("mnuEffectsConfineColorsTo2");
     EXPECT_EQ(host.shown.back().text, "Current image is of monochrome.  ");
 
-    s.ClickMonoThreshold(353);
+    s.Frames().ClickMonoThreshold(353);
     EXPECT_EQ(s.ConfineMono().Threshold(), 354);
-    s.ClickMonoThreshold(354);  // past the list
+    s.Frames().ClickMonoThreshold(354);  // past the list
     EXPECT_EQ(s.ConfineMono().Threshold(), 354);
 }
 
