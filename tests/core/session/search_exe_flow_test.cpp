@@ -59,6 +59,15 @@ TEST_F(SearchExeFlow, TheMenuEntryShowsTheFrameIdleAndOnceOnly) {
               "You are already in \"Search & Extract Icons From EXE Files In Folder\" session.\r\n");
 }
 
+TEST_F(SearchExeFlow, TheExtractMenusSaveQuestionComesFirst) {
+    s.FileNew(0);
+    s.Current().Changed = true;
+    host.Answer(host::MsgAnswer::Cancel);
+    s.RunMenuItem("mnuExtractSub(5)");
+    EXPECT_EQ(LastMessage(), "Save current icon to file?");
+    EXPECT_EQ(s.Form().VisibleFrame, Frame::ColorsPanel);
+}
+
 TEST_F(SearchExeFlow, TheFolderButtonsAskWithTheirPatternFromTheBoxesText) {
     s.RunMenuItem("mnuExtractSub(5)");
     Flows().EditSearchDir(0, "/start/here");
