@@ -37,6 +37,9 @@ constexpr const char* kUsage =
     "                                 the editor writes it\n"
     "  extract FILE OUTDIR [--list]   every icon and cursor group of a DLL, EXE or .res\n"
     "                                 file, or the frames of an animated cursor, as files\n"
+    "  search DIR OUTDIR [--recursive] [--max N] [--small]\n"
+    "                                 the icons of every EXE file in a folder (tree) as\n"
+    "                                 icon files, as the editor's search writes them\n"
     "\n"
     "A refused file or argument gives exit status 1 and one line on stderr.\n"
     "'vexlo-cli COMMAND --help' tells more of one command.\n";
@@ -124,6 +127,18 @@ constexpr const char* kConvertHelp =
     "transparent) or an icon file (the image the editor opens, read as the editor reads it).\n"
     "Writes a single-icon file whose depth follows the pixels, as a save in the editor does.\n"
     "--force256 writes 2- and 16-color pictures at 256 colors.\n";
+
+constexpr const char* kSearchHelp =
+    "usage: vexlo-cli search DIR OUTDIR [--recursive] [--max N] [--small]\n"
+    "Opens every *.exe file of DIR (the letters in any case) and writes each of its icons\n"
+    "as OUTDIR/K_STEM.ico: K counts the icons written from 0, STEM is the file's name\n"
+    "without its extension. Each icon is the 32x32 picture the editor takes from the file\n"
+    "(--small: the 16x16 one), written at the depth its colors need. --recursive walks the\n"
+    "subfolders first, the last by name first, then the folder's own files by name; links\n"
+    "back up the tree, unreadable folders and files that are no program files are passed\n"
+    "over. The search ends after N icons (--max, 1 to 10000, default 300). On a terminal a\n"
+    "progress line shows on stderr; at the end one line tells the files scanned, the icons\n"
+    "written and the files skipped. Exit status 1 when an icon could not be written.\n";
 
 constexpr const char* kExtractHelp =
     "usage: vexlo-cli extract FILE OUTDIR [--list]\n"
@@ -221,7 +236,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
                                       {"export", kExportHelp}, {"convert", kConvertHelp},
                                       {"split", kSplitHelp}, {"ani", kAniHelp},
                                       {"alpha", kAlphaHelp}, {"thumbnail", kThumbnailHelp},
-                                      {"extract", kExtractHelp}};
+                                      {"extract", kExtractHelp}, {"search", kSearchHelp}};
     for (const Entry& c : kCommands) {
         if (command != c.name) continue;
         if (WantsHelp(rest)) {
@@ -236,6 +251,7 @@ int RunCli(const std::vector<std::string>& args, std::string& out, std::string& 
         if (command == "alpha") return Alpha(rest, out, err);
         if (command == "thumbnail") return Thumbnail(rest, err);
         if (command == "extract") return Extract(rest, out, err);
+        if (command == "search") return Search(rest, out, err);
         return Convert(rest, err);
     }
     return Fail(err, "unknown command '" + command + "' (see 'vexlo-cli --help')");

@@ -28,6 +28,8 @@ int Thumbnail(const std::vector<std::string>& args, std::string& err);
 // The icon and cursor groups of a program or resource file, or an animated cursor's frames,
 // written as files (extract_command.cpp).
 int Extract(const std::vector<std::string>& args, std::string& out, std::string& err);
+// The icons of every EXE file in a folder tree written as icon files (search_command.cpp).
+int Search(const std::vector<std::string>& args, std::string& out, std::string& err);
 
 // Reading an index from 0: false for anything but a whole number.
 bool ParseIndex(const std::string& text, std::size_t& index);

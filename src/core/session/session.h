@@ -30,6 +30,7 @@
 #include "core/session/session_basics.h"
 #include "core/session/region/floating_region.h"
 #include "core/session/region/region_tool_view.h"
+#include "core/session/search_exe/search_exe_panel.h"
 #include "core/session/session_tool_view.h"
 #include "core/session/settings/file_history_menu.h"
 #include "core/session/shift_pad/shift_pad.h"
@@ -263,6 +264,7 @@ public:
     void PrintProceed();                                       // cmdPrintProceed
     // The Icons List and its sources, and the list's state (session_icons_list.h).
     IconsListFlows Extraction();
+    class SearchExeFlows SearchExe();  // fraSearchExeInFolder (session_search_exe.h)
 
     // --- Undo and redo (session_undo.cpp) ---------------------------------------------------
     int UndoCount() const { return static_cast<int>(m_icon.UndoCount()); }
@@ -314,6 +316,7 @@ private:
     // The Region, the clipboard and the transforms; RegionToolView is what the Region tool sees.
     friend class RegionToolView;
     friend class IconsListFlows;
+    friend class SearchExeFlows;
     void CutRegion(bool copyFirst);
     void CopyToClipboard();
     void PasteClipboard(bool seeThrough);
@@ -351,6 +354,7 @@ private:
     AniSession m_ani;
     ColorMixer m_mixer;
     IconsListSession m_list;
+    SearchExePanel m_search;
     FormState m_form;
     FileHistoryMenu m_fileHistory;
     PrintPanel m_print;

@@ -6,6 +6,7 @@
 #include "core/session/icons_list/list_sources.h"
 #include "core/session/session.h"
 #include "core/session/session_icons_list.h"
+#include "core/session/session_search_exe.h"
 
 namespace vexlo::session {
 
@@ -23,8 +24,9 @@ constexpr std::array<const char*, 5> kEntryName = {
 
 void IconsListFlows::ClickExtractSub(int k) {
     m_s.Enter();
-    // Entry 5, the search of the EXE files of a folder, has a frame and flow of its own.
-    if (k < 0 || k > 4) return;
+    // Entry 5, the search of the EXE files of a folder, has a frame and flow of its own once
+    // the guards have passed.
+    if (k < 0 || k > 5) return;
     const bool listUp = m_s.m_form.VisibleFrame == Frame::IconsList;
     if (listUp) {
         // The parked icon's status goes; the session's name stays in its place.
@@ -32,13 +34,14 @@ void IconsListFlows::ClickExtractSub(int k) {
         m_s.m_form.Status.Panel[0] = "[Successive Loading Session]";
     }
     const std::size_t e = static_cast<std::size_t>(k);
-    if (listUp && kKindOfEntry[e] == List().Kind()) {
+    if (listUp && k <= 4 && kKindOfEntry[e] == List().Kind()) {
         Say(std::string("You are already in \"") + kEntryName[e] + "\" session." + kCrLf);
         return;
     }
     if (!listUp && !m_s.AskTerminateAniSession(false)) return;
     const IconSlot& slot = m_s.Current();
     if (slot.InEditingArea && (slot.Changed || slot.NeverSaved) && !m_s.AskSaveCurrent()) return;
+    if (k == 5) return m_s.SearchExe().ExtractFromExeFolder();
 
     const int kind = kKindOfEntry[e];
     if (kind == kListDesktop) {

@@ -34,6 +34,7 @@ class TextFrame;
 class RotateAngleFrame;
 class PrintFrame;
 class IconsListFrame;
+class SearchExeFrame;
 
 // The window's fixed size: 11500 by 8600 twips at 15 twips a pixel. It is the size of the
 // window itself; a window manager's frame comes around it.
@@ -141,6 +142,7 @@ public:
     AniContainerView* picANIContainer = nullptr;
     PrintFrame* fraPrint = nullptr;
     IconsListFrame* fraIconsList = nullptr;
+    SearchExeFrame* fraSearchExeInFolder = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

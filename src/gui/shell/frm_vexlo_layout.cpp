@@ -13,6 +13,7 @@
 #include "gui/effects/frm_vexlo_text.h"
 #include "gui/ani/ani_container_view.h"
 #include "gui/icons_list/frm_vexlo_icons_list.h"
+#include "gui/search/frm_vexlo_search_exe.h"
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/print/frm_vexlo_print.h"
@@ -106,7 +107,8 @@ void FrmVexlo::BuildLayout() {
         if (f != static_cast<int>(session::Frame::ColorsPanel) &&
             f != static_cast<int>(session::Frame::EffectsShades) &&
             f != static_cast<int>(session::Frame::SaveAsCursor) &&
-            f != static_cast<int>(session::Frame::IconsList)) {
+            f != static_cast<int>(session::Frame::IconsList) &&
+            f != static_cast<int>(session::Frame::SearchExeInFolder)) {
             auto* caption = new QLabel(kFrameCaptions[f], frame);
             caption->move(6, 4);
         }
@@ -131,6 +133,8 @@ void FrmVexlo::BuildLayout() {
     Frames[session::Frame::IconsList]->setGeometry(kRightLeft, kDispTop, kRightWidth, 388 + 48);
     Frames[session::Frame::IconsList]->setObjectName("fraIconsList");
     fraIconsList = new IconsListFrame(*this, Frames[session::Frame::IconsList]);
+    Frames[session::Frame::SearchExeInFolder]->setObjectName("fraSearchExeInFolder");
+    fraSearchExeInFolder = new SearchExeFrame(*this, Frames[session::Frame::SearchExeInFolder]);
 
     auto* toolbox = new QWidget(m_form);
     toolbox->setObjectName("Toolbox");

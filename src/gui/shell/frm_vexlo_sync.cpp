@@ -14,6 +14,7 @@
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/print/frm_vexlo_print.h"
+#include "gui/search/frm_vexlo_search_exe.h"
 
 namespace vexlo::gui {
 
@@ -82,6 +83,7 @@ void FrmVexlo::SyncFromModel() {
     picANIContainer->Sync();
     fraPrint->Sync();
     fraIconsList->Sync();
+    fraSearchExeInFolder->Sync();
     SyncStatus();
 }
 
