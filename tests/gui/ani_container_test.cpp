@@ -16,6 +16,7 @@
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 #include "support/test_bytes.h"
 
@@ -27,10 +28,7 @@ using host::MsgAnswer;
 class AniContainerTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
         window->Item("mnuANIFileCreateOrEdit")->trigger();
         ani = window->picANIContainer;
     }
@@ -41,8 +39,7 @@ protected:
     }
     QRgb FilmPixel(int x, int y) { return ani->picFilm->grab().toImage().pixel(x, y) & 0xFFFFFF; }
     void Shot(const char* name) {
-        const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-        if (!dir.isEmpty()) window->grab().save(QString::fromUtf8(dir) + "/" + name + ".png");
+        SaveShot(window.get(), name);
     }
 
     ScriptedHost host;

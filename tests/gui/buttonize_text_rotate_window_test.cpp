@@ -27,6 +27,7 @@
 #include "gui/platform/surface_view.h"
 #include "gui/platform/text_drawing.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -104,10 +105,7 @@ TEST(TextDrawing, HollowTextHasOnlyOutlinePixels) {
 class EffectFramesWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
         window->Item("mnuFileNew(0)")->trigger();
         // A colorful icon: a band of colors across, a transparent ring at the edge.
         session::Session& s = window->session();
@@ -122,9 +120,7 @@ protected:
     session::Session& S() { return window->session(); }
     // The window as a picture in $VEXLO_SHOT_DIR, when it is set.
     void Shot(const char* name) {
-        const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-        if (dir.isEmpty()) return;
-        window->grab().save(QDir(QString::fromLocal8Bit(dir)).filePath(QString(name) + ".png"));
+        SaveShot(window.get(), name);
     }
 
     ScriptedHost host;

@@ -12,6 +12,7 @@
 
 #include "core/files/ico_write.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 #include "support/test_folder.h"
 
@@ -23,10 +24,7 @@ using host::MsgAnswer;
 class DropTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
         surface::Surface image(16, 16, 0), mask(16, 16, 0);
         image.Fill(0x0000FF);
         mask.Fill(0);

@@ -13,6 +13,7 @@
 #include "gui/platform/elided_label.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -23,10 +24,7 @@ using host::MsgAnswer;
 class FrmVexloTest : public ::testing::Test {
 protected:
     void Open(const std::string& commandLine = "") {
-        window = std::make_unique<gui::FrmVexlo>(commandLine);
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow(commandLine);
     }
     QRgb DispPixel(int x, int y) { return window->picDisp->grab().toImage().pixel(x, y) & 0xFFFFFF; }
 

@@ -20,6 +20,7 @@
 #include "core/files/pal_file.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -30,10 +31,7 @@ using host::MsgAnswer;
 class EffectsFramesTest : public ::testing::Test {
 protected:
     void Open() {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
     }
     // A new icon of that menu entry with a painted red box in its middle.
     void NewIcon(int entry) {
@@ -51,10 +49,7 @@ protected:
     }
     // The window as a PNG in $VEXLO_SHOT_DIR, when set.
     void Shot(const QString& name) {
-        const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-        if (dir.isEmpty()) return;
-        QDir().mkpath(QString::fromLocal8Bit(dir));
-        window->grab().save(QString::fromLocal8Bit(dir) + "/" + name + ".png");
+        SaveShot(window.get(), name);
     }
     QImage Grab(QWidget* w) { return w->grab().toImage(); }
 

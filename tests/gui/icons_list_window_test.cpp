@@ -25,6 +25,7 @@
 #include "gui/platform/shell_icons.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 #include "support/test_folder.h"
 
@@ -38,10 +39,7 @@ using surface::Surface;
 class IconsListWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
         // Icons of three sizes in a ring of colors, one bad file among them.
         for (int i = 0; i < 20; ++i) {
             const int side = i % 3 == 0 ? 48 : i % 3 == 1 ? 32 : 16;
@@ -61,9 +59,7 @@ protected:
     session::Session& S() { return window->session(); }
     const session::IconsListSession& List() { return S().Extraction().State(); }
     void Shot(const char* name) {
-        const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-        if (dir.isEmpty()) return;
-        window->grab().save(QDir(QString::fromLocal8Bit(dir)).filePath(QString(name) + ".png"));
+        SaveShot(window.get(), name);
     }
     void OpenFolder() {
         host.AnswerFolder(folder.Dir().string());

@@ -13,6 +13,7 @@
 
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -39,19 +40,12 @@ surface::Surface SpotlightIcon(gui::FrmVexlo& window, const std::function<void()
 TEST(Reentry, AClickPostedDuringASpotlightPlotNeverInterleaves) {
     ScriptedHost host;
     ScopedScriptedMessageBoxes boxes{host};
-    auto open = [] {
-        auto window = std::make_unique<gui::FrmVexlo>("");
-        EXPECT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
-        return window;
-    };
     surface::Surface expected;
     {
-        auto quiet = open();
+        auto quiet = OpenMainWindow();
         expected = SpotlightIcon(*quiet, [] {});
     }
-    auto window = open();
+    auto window = OpenMainWindow();
     QLabel* third = window->lblPanelIcon[2];
     const surface::Surface got = SpotlightIcon(*window, [third] {
         for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})

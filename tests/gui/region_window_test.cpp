@@ -16,6 +16,7 @@
 #include "gui/platform/clipboard.h"
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -26,10 +27,7 @@ using tools::Tool;
 
 constexpr QRgb kRed = 0xFFFF0000, kBlue = 0xFF0000FF;
 
-void Shot(QWidget* w, const char* name) {
-    const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-    if (!dir.isEmpty()) w->grab().save(QString::fromUtf8(dir) + "/" + name + ".png");
-}
+void Shot(QWidget* w, const QString& name) { SaveShot(w, name); }
 
 // What another Qt program does to put a picture on the clipboard.
 void OtherProgramCopies(const QImage& image) { QGuiApplication::clipboard()->setImage(image); }
@@ -52,10 +50,7 @@ class RegionWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         QGuiApplication::clipboard()->clear();
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
     }
     session::Session& S() { return window->session(); }
     // A 32x32 icon with a red 4 x 4 block at cells 2..5 and a blue pixel in its middle.

@@ -16,6 +16,7 @@
 #include "gui/platform/elided_label.h"
 #include "gui/search/frm_vexlo_search_exe.h"
 #include "gui/shell/frm_vexlo.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 #include "support/exe_tree.h"
 #include "support/test_folder.h"
@@ -29,18 +30,13 @@ using session::Frame;
 class SearchExeWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
     }
     gui::SearchExeFrame& Frame() { return *window->fraSearchExeInFolder; }
     session::Session& S() { return window->session(); }
     const session::SearchExePanel& State() { return S().SearchExe().State(); }
     void Shot(const char* name) {
-        const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-        if (dir.isEmpty()) return;
-        window->grab().save(QDir(QString::fromLocal8Bit(dir)).filePath(QString(name) + ".png"));
+        SaveShot(window.get(), name);
     }
 
     TestFolder folder{"vexlo_search_window"};

@@ -25,15 +25,13 @@
 #include "gui/print/frm_vexlo_print.h"
 #include "gui/shell/frm_vexlo.h"
 #include "gui/utilities/frm_vexlo_about.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
 namespace {
 
-void Shot(QWidget* widget, const QString& name) {
-    const QByteArray dir = qgetenv("VEXLO_SHOT_DIR");
-    if (!dir.isEmpty()) widget->grab().save(QDir(QString::fromLocal8Bit(dir)).filePath(name + ".png"));
-}
+void Shot(QWidget* widget, const QString& name) { SaveShot(widget, name); }
 
 // Runs step once a modal widget of type T is up; fails if none comes within five seconds.
 template <typename T>
@@ -65,10 +63,7 @@ public:
 class UtilitiesWindow : public ::testing::Test {
 protected:
     void Open() {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
     session::Session& s() { return window->session(); }

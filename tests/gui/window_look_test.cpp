@@ -19,6 +19,7 @@
 #include "gui/platform/surface_view.h"
 #include "gui/shell/frm_vexlo.h"
 #include "gui/shell/pictures.h"
+#include "main_window_support.h"
 #include "scripted_dialogs.h"
 
 namespace vexlo::test {
@@ -41,10 +42,7 @@ bool WaitFor(const std::function<bool()>& done) {
 class WindowLookTest : public ::testing::Test {
 protected:
     void Open() {
-        window = std::make_unique<gui::FrmVexlo>("");
-        ASSERT_TRUE(window->LoadForm());
-        window->show();
-        window->FirstActivate();
+        window = OpenMainWindow();
     }
 
     ScriptedHost host;
